@@ -1,0 +1,91 @@
+#include "AppPaths.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace {
+QString &overridePath()
+{
+    static QString path;
+    return path;
+}
+
+QString applicationBaseName()
+{
+    QString name = QCoreApplication::applicationName();
+    if (name.isEmpty())
+        name = QStringLiteral("ferolith");
+    return name;
+}
+} // namespace
+
+namespace AppPaths {
+
+QString withTrailingSeparator(const QString &folder)
+{
+    QString native = QDir::toNativeSeparators(folder);
+    if (!native.endsWith(QDir::separator()))
+        native += QDir::separator();
+    return native;
+}
+
+QString baseFolder()
+{
+    QString dir = QCoreApplication::applicationDirPath();
+    if (dir.isEmpty())
+        dir = QDir::currentPath();
+    return withTrailingSeparator(dir);
+}
+
+QString settingsFile()
+{
+    if (!overridePath().isEmpty())
+        return QDir::toNativeSeparators(overridePath());
+    const QString fileName = applicationBaseName() + QStringLiteral(".ini");
+    const QFileInfo exeDir(QCoreApplication::applicationDirPath());
+    if (exeDir.isDir() && exeDir.isWritable())
+        return baseFolder() + fileName;
+    QString config = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    if (config.isEmpty())
+        config = QDir::homePath();
+    QDir().mkpath(config);
+    return withTrailingSeparator(config) + fileName;
+}
+
+void setSettingsFileOverride(const QString &path)
+{
+    overridePath() = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
+}
+
+bool takeIniOption(QStringList &arguments, QString *errorMessage)
+{
+    for (int i = 1; i < arguments.size(); ++i) {
+        const QString arg = arguments.at(i);
+        if (arg == QLatin1String("--ini")) {
+            if (i + 1 >= arguments.size() || arguments.at(i + 1).isEmpty()) {
+                if (errorMessage)
+                    *errorMessage = QStringLiteral("Die Option --ini braucht einen Dateinamen.");
+                return false;
+            }
+            setSettingsFileOverride(arguments.at(i + 1));
+            arguments.remove(i, 2);
+            return true;
+        }
+        if (arg.startsWith(QLatin1String("--ini="))) {
+            const QString path = arg.mid(6);
+            if (path.isEmpty()) {
+                if (errorMessage)
+                    *errorMessage = QStringLiteral("Die Option --ini braucht einen Dateinamen.");
+                return false;
+            }
+            setSettingsFileOverride(path);
+            arguments.removeAt(i);
+            return true;
+        }
+    }
+    return true;
+}
+
+} // namespace AppPaths

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// Where the program keeps its files. Folders are returned with native
+// separators and always end with one.
+namespace AppPaths {
+
+// The folder of the executable.
+QString baseFolder();
+
+// The settings file: "<application name>.ini" next to the executable when
+// that folder is writable, otherwise in the user's configuration folder.
+// An override (the --ini option) wins.
+QString settingsFile();
+void setSettingsFileOverride(const QString &path);
+
+// Takes "--ini PATH" or "--ini=PATH" out of the arguments and sets the
+// override; returns false with a message when the option has no path.
+bool takeIniOption(QStringList &arguments, QString *errorMessage = nullptr);
+
+QString withTrailingSeparator(const QString &folder);
+
+} // namespace AppPaths

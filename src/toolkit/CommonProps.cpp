@@ -1,0 +1,80 @@
+#include "CommonProps.h"
+
+#include "Control.h"
+
+using PropBuilder::prop;
+
+namespace CommonProps {
+TPropInfo Left() { return prop("Left", &TControl::Left, &TControl::setLeft); }
+TPropInfo Top() { return prop("Top", &TControl::Top, &TControl::setTop); }
+TPropInfo Width() { return prop("Width", &TControl::Width, &TControl::setWidth); }
+TPropInfo Height() { return prop("Height", &TControl::Height, &TControl::setHeight); }
+TPropInfo Align()
+{
+    return prop("Align", &TControl::Align, &TControl::setAlign, EnumNames::Align(), QVariant(int(alNone)));
+}
+TPropInfo Color() { return prop("Color", &TControl::Color, &TControl::setColor); }
+TPropInfo ParentColor() { return prop("ParentColor", &TControl::ParentColor, &TControl::setParentColor); }
+TPropInfo Transparent()
+{
+    return prop("Transparent", &TControl::Transparent, &TControl::setTransparent, {}, QVariant(false));
+}
+TPropInfo Font() { return prop("Font", &TControl::Font, &TControl::setFont); }
+TPropInfo ParentFont() { return prop("ParentFont", &TControl::ParentFont, &TControl::setParentFont); }
+TPropInfo Tag() { return prop("Tag", &TControl::Tag, &TControl::setTag, {}, QVariant(0)); }
+TPropInfo Hint() { return prop("Hint", &TControl::Hint, &TControl::setHint, {}, QVariant(QString())); }
+TPropInfo ShowHint() { return prop("ShowHint", &TControl::ShowHint, &TControl::setShowHint, {}, QVariant(false)); }
+TPropInfo HelpKeyword()
+{
+    return prop("HelpKeyword", &TControl::HelpKeyword, &TControl::setHelpKeyword, {}, QVariant(QString()));
+}
+TPropInfo TabOrder() { return prop("TabOrder", &TControl::TabOrder, &TControl::setTabOrder); }
+TPropInfo TabStop() { return prop("TabStop", &TControl::TabStop, &TControl::setTabStop); }
+namespace {
+TPropInfo widgetFlag(const QString &name, bool (QWidget::*getter)() const, void (QWidget::*setter)(bool),
+                     bool inverted)
+{
+    TPropInfo info;
+    info.name = name;
+    info.type = TPropType::Boolean;
+    info.defaultValue = true;
+    info.get = [getter, inverted](const QObject *o) -> QVariant {
+        const auto *w = qobject_cast<const QWidget *>(o);
+        return w ? QVariant(bool((w->*getter)()) != inverted) : QVariant();
+    };
+    info.set = [setter](QObject *o, const QVariant &v) {
+        if (auto *w = qobject_cast<QWidget *>(o))
+            (w->*setter)(v.toBool());
+    };
+    return info;
+}
+} // namespace
+TPropInfo Visible() { return widgetFlag(QStringLiteral("Visible"), &QWidget::isHidden, &QWidget::setVisible, true); }
+TPropInfo Enabled()
+{
+    return widgetFlag(QStringLiteral("Enabled"), &QWidget::isEnabled, &QWidget::setEnabled, false);
+}
+} // namespace CommonProps
+
+namespace EnumNames {
+#define FEROLITH_ENUM_NAMES(fn, ...)                                                             \
+    const QStringList &fn()                                                                      \
+    {                                                                                            \
+        static const QStringList names = {__VA_ARGS__};                                          \
+        return names;                                                                            \
+    }
+FEROLITH_ENUM_NAMES(Align, "alNone", "alTop", "alBottom", "alLeft", "alRight", "alClient", "alCustom")
+FEROLITH_ENUM_NAMES(Alignment, "taLeftJustify", "taRightJustify", "taCenter")
+FEROLITH_ENUM_NAMES(TextLayout, "tlTop", "tlCenter", "tlBottom")
+FEROLITH_ENUM_NAMES(BevelShape, "bsBox", "bsFrame", "bsTopLine", "bsBottomLine", "bsLeftLine", "bsRightLine",
+                    "bsSpacer")
+FEROLITH_ENUM_NAMES(BevelStyle, "bsLowered", "bsRaised")
+FEROLITH_ENUM_NAMES(ShapeType, "stRectangle", "stSquare", "stRoundRect", "stRoundSquare", "stEllipse", "stCircle")
+FEROLITH_ENUM_NAMES(PanelBevel, "bvNone", "bvLowered", "bvRaised", "bvSpace")
+FEROLITH_ENUM_NAMES(BorderStyle, "bsNone", "bsSingle")
+FEROLITH_ENUM_NAMES(ScrollStyle, "ssNone", "ssHorizontal", "ssVertical", "ssBoth")
+FEROLITH_ENUM_NAMES(EditCharCase, "ecNormal", "ecUpperCase", "ecLowerCase")
+FEROLITH_ENUM_NAMES(ButtonLayout, "blGlyphLeft", "blGlyphRight", "blGlyphTop", "blGlyphBottom")
+FEROLITH_ENUM_NAMES(TabPosition, "tpTop", "tpBottom", "tpLeft", "tpRight")
+#undef FEROLITH_ENUM_NAMES
+} // namespace EnumNames

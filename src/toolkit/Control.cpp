@@ -1,0 +1,407 @@
+#include "Control.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QPalette>
+#include <algorithm>
+
+namespace {
+
+constexpr int kMaxCoordinate = QWIDGETSIZE_MAX;
+
+int clampPosition(int v)
+{
+    return std::clamp(v, -kMaxCoordinate, kMaxCoordinate);
+}
+
+int clampSize(int v)
+{
+    return std::clamp(v, 0, kMaxCoordinate);
+}
+
+// Lives as a plain QObject child of a container and watches it.
+class ContainerInfo : public QObject
+{
+public:
+    static ContainerInfo *of(QWidget *container, bool create)
+    {
+        if (!container)
+            return nullptr;
+        auto *info = container->findChild<ContainerInfo *>(QStringLiteral("_ferolith_container"),
+                                                           Qt::FindDirectChildrenOnly);
+        if (!info && create)
+            info = new ContainerInfo(container);
+        return info;
+    }
+
+    explicit ContainerInfo(QWidget *container) : QObject(container), m_container(container)
+    {
+        setObjectName(QStringLiteral("_ferolith_container"));
+        container->installEventFilter(this);
+    }
+
+    QList<QPointer<QWidget>> tabs;
+    bool aligning = false;
+
+    void prune()
+    {
+        tabs.removeIf([](const QPointer<QWidget> &p) { return p.isNull(); });
+    }
+
+    void applyFocusChain()
+    {
+        prune();
+        for (int i = 0; i + 1 < tabs.size(); ++i)
+            QWidget::setTabOrder(tabs.at(i), tabs.at(i + 1));
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == m_container) {
+            switch (event->type()) {
+            case QEvent::Resize:
+            case QEvent::ChildRemoved:
+            case QEvent::LayoutRequest:
+                Containers::alignControls(m_container);
+                break;
+            default:
+                break;
+            }
+        }
+        return false;
+    }
+
+private:
+    QWidget *m_container;
+};
+
+bool hasAlignedChildren(QWidget *container)
+{
+    for (QObject *child : container->children()) {
+        if (const TControl *c = TControl::from(child); c && c->Align() != alNone)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+namespace Containers {
+
+void alignControls(QWidget *container)
+{
+    if (!container)
+        return;
+    ContainerInfo *info = ContainerInfo::of(container, false);
+    if (info && info->aligning)
+        return;
+    if (!hasAlignedChildren(container))
+        return;
+    if (!info)
+        info = ContainerInfo::of(container, true);
+
+    QRect rect;
+    if (const TControl *c = TControl::from(container))
+        rect = c->alignClientRect();
+    else
+        rect = container->contentsRect();
+
+    info->aligning = true;
+    QList<TControl *> byAlign[alCustom + 1];
+    for (QObject *child : container->children()) {
+        TControl *c = TControl::from(child);
+        if (c && c->Align() != alNone && c->Align() != alCustom && !c->widget()->isHidden())
+            byAlign[c->Align()].append(c);
+    }
+    // Controls of one alignment stack in the order of their current position.
+    auto byTop = [](TControl *a, TControl *b) { return a->Top() < b->Top(); };
+    auto byBottom = [](TControl *a, TControl *b) { return a->Top() + a->Height() > b->Top() + b->Height(); };
+    auto byLeft = [](TControl *a, TControl *b) { return a->Left() < b->Left(); };
+    auto byRight = [](TControl *a, TControl *b) { return a->Left() + a->Width() > b->Left() + b->Width(); };
+    std::stable_sort(byAlign[alTop].begin(), byAlign[alTop].end(), byTop);
+    std::stable_sort(byAlign[alBottom].begin(), byAlign[alBottom].end(), byBottom);
+    std::stable_sort(byAlign[alLeft].begin(), byAlign[alLeft].end(), byLeft);
+    std::stable_sort(byAlign[alRight].begin(), byAlign[alRight].end(), byRight);
+
+    int left = rect.left(), top = rect.top();
+    int right = rect.left() + rect.width(), bottom = rect.top() + rect.height();
+    for (TControl *c : byAlign[alTop]) {
+        const int h = c->Height();
+        c->widget()->setGeometry(left, top, std::max(0, right - left), h);
+        top += h;
+    }
+    for (TControl *c : byAlign[alBottom]) {
+        const int h = c->Height();
+        bottom -= h;
+        c->widget()->setGeometry(left, bottom, std::max(0, right - left), h);
+    }
+    for (TControl *c : byAlign[alLeft]) {
+        const int w = c->Width();
+        c->widget()->setGeometry(left, top, w, std::max(0, bottom - top));
+        left += w;
+    }
+    for (TControl *c : byAlign[alRight]) {
+        const int w = c->Width();
+        right -= w;
+        c->widget()->setGeometry(right, top, w, std::max(0, bottom - top));
+    }
+    for (TControl *c : byAlign[alClient])
+        c->widget()->setGeometry(left, top, std::max(0, right - left), std::max(0, bottom - top));
+    info->aligning = false;
+}
+
+QList<QWidget *> tabList(QWidget *container)
+{
+    QList<QWidget *> out;
+    if (ContainerInfo *info = ContainerInfo::of(container, false)) {
+        info->prune();
+        for (const auto &p : std::as_const(info->tabs))
+            out << p.data();
+    }
+    return out;
+}
+
+} // namespace Containers
+
+TControl::TControl(QWidget *self) : m_self(self)
+{
+    // A new control shows its name until it gets a caption of its own.
+    QObject::connect(self, &QObject::objectNameChanged, self, [this](const QString &name) {
+        if (classInfo().setCaptionFromName && !isLoading() && Caption() == m_lastName)
+            setCaption(name);
+        m_lastName = name;
+    });
+}
+
+TControl::~TControl()
+{
+    if (ContainerInfo *info = ContainerInfo::of(m_tabParent, false))
+        info->tabs.removeAll(m_self);
+}
+
+void TControl::setLeft(int value)
+{
+    m_self->move(clampPosition(value), m_self->y());
+}
+
+void TControl::setTop(int value)
+{
+    m_self->move(m_self->x(), clampPosition(value));
+}
+
+void TControl::setWidth(int value)
+{
+    m_self->resize(clampSize(value), m_self->height());
+}
+
+void TControl::setHeight(int value)
+{
+    m_self->resize(m_self->width(), clampSize(value));
+}
+
+void TControl::setBounds(int left, int top, int width, int height)
+{
+    m_self->setGeometry(clampPosition(left), clampPosition(top), clampSize(width), clampSize(height));
+}
+
+void TControl::setHint(const QString &hint)
+{
+    m_hint = hint;
+    m_self->setToolTip(m_showHint ? m_hint : QString());
+}
+
+void TControl::setShowHint(bool show)
+{
+    m_showHint = show;
+    m_self->setToolTip(m_showHint ? m_hint : QString());
+}
+
+void TControl::setAlign(TAlign align)
+{
+    if (m_align == align)
+        return;
+    m_align = align;
+    requestParentAlign();
+}
+
+TColor TControl::Color() const
+{
+    if (m_parentColor) {
+        if (const TControl *parent = from(m_self->parentWidget()))
+            return parent->Color();
+    }
+    return m_color;
+}
+
+void TControl::setColor(TColor color)
+{
+    m_color = color;
+    m_parentColor = false;
+    applyColor();
+}
+
+void TControl::setParentColor(bool parentColor)
+{
+    m_parentColor = parentColor;
+    applyColor();
+}
+
+void TControl::setTransparent(bool transparent)
+{
+    m_transparent = transparent;
+    applyColor();
+}
+
+void TControl::applyColor()
+{
+    const bool fill = !m_transparent && !m_parentColor;
+    if (fill) {
+        QPalette pal = m_self->palette();
+        const QColor c = m_color.toQColor();
+        pal.setColor(QPalette::Window, c);
+        pal.setColor(QPalette::Base, c);
+        m_self->setPalette(pal);
+    }
+    m_self->setAutoFillBackground(fill);
+    m_self->update();
+}
+
+void TControl::applyFontColor()
+{
+    QPalette pal = m_self->palette();
+    const QColor c = m_fontColor.toQColor();
+    pal.setColor(QPalette::WindowText, c);
+    pal.setColor(QPalette::Text, c);
+    pal.setColor(QPalette::ButtonText, c);
+    m_self->setPalette(pal);
+}
+
+TFont TControl::Font() const
+{
+    const QFont f = m_self->font();
+    TFont font;
+    font.Name = f.family();
+    font.Size = f.pointSize() > 0 ? f.pointSize() : qRound(f.pixelSize() * 72.0 / 96.0);
+    font.Color = m_fontColor;
+    font.Style = fontStylesOf(f);
+    return font;
+}
+
+void TControl::setFont(const TFont &font)
+{
+    QFont f = m_self->font();
+    f.setFamily(font.Name);
+    if (font.Size > 0)
+        f.setPointSize(std::min(font.Size, 1000));
+    applyFontStyles(f, font.Style);
+    m_self->setFont(f);
+    m_parentFont = false;
+    if (m_fontColor != font.Color) {
+        m_fontColor = font.Color;
+        applyFontColor();
+    }
+}
+
+void TControl::setParentFont(bool parentFont)
+{
+    m_parentFont = parentFont;
+    if (parentFont)
+        m_self->setFont(QFont());
+}
+
+int TControl::TabOrder() const
+{
+    ContainerInfo *info = ContainerInfo::of(m_tabParent, false);
+    if (!info)
+        return -1;
+    info->prune();
+    return int(info->tabs.indexOf(m_self));
+}
+
+void TControl::setTabOrder(int order)
+{
+    ContainerInfo *info = ContainerInfo::of(m_tabParent, false);
+    if (!info || order < 0)
+        return;
+    info->prune();
+    const int from = int(info->tabs.indexOf(m_self));
+    if (from < 0)
+        return;
+    const int to = std::min(order, int(info->tabs.size()) - 1);
+    if (from != to) {
+        info->tabs.move(from, to);
+        info->applyFocusChain();
+    }
+}
+
+void TControl::endLoading()
+{
+    m_state &= ~csLoading;
+    loadingEnded();
+}
+
+void TControl::setDesigning(bool designing)
+{
+    const int state = designing ? (m_state | csDesigning) : (m_state & ~csDesigning);
+    if (state == m_state)
+        return;
+    m_state = state;
+    designingChanged();
+}
+
+void TControl::parentChanged()
+{
+    QWidget *parent = m_self->parentWidget();
+    if (parent == m_tabParent)
+        return;
+    QWidget *oldParent = m_tabParent;
+    if (ContainerInfo *old = ContainerInfo::of(oldParent, false)) {
+        old->tabs.removeAll(m_self);
+        Containers::alignControls(oldParent);
+    }
+    m_tabParent = parent;
+    if (!parent) {
+        parentWidgetChanged(oldParent);
+        return;
+    }
+    ContainerInfo *info = ContainerInfo::of(parent, true);
+    if (classInfo().windowed) {
+        info->tabs.append(m_self);
+        info->applyFocusChain();
+    }
+    if (m_parentColor)
+        applyColor();
+    requestParentAlign();
+    parentWidgetChanged(oldParent);
+}
+
+void TControl::requestParentAlign()
+{
+    if (m_self->parentWidget())
+        Containers::alignControls(m_self->parentWidget());
+}
+
+void TControl::controlEvent(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ParentChange:
+        parentChanged();
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+        if (m_align != alNone)
+            requestParentAlign();
+        break;
+    case QEvent::ApplicationPaletteChange:
+        // System colours follow the platform palette.
+        if (m_color.isSystem())
+            applyColor();
+        if (m_fontColor.isSystem())
+            applyFontColor();
+        break;
+    default:
+        break;
+    }
+}

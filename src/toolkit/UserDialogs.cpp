@@ -1,0 +1,152 @@
+#include "UserDialogs.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDialog>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDialog>
+#include <QHash>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+UserDialogs *&installed()
+{
+    static UserDialogs *dialogs = nullptr;
+    return dialogs;
+}
+} // namespace
+
+UserDialogs::~UserDialogs() = default;
+
+UserDialogs &UserDialogs::instance()
+{
+    static QtUserDialogs qtDialogs;
+    return installed() ? *installed() : qtDialogs;
+}
+
+void UserDialogs::setInstance(UserDialogs *dialogs)
+{
+    installed() = dialogs;
+}
+
+bool TFileDialog::execute(QWidget *parent)
+{
+    return UserDialogs::instance().fileDialog(parent, *this);
+}
+
+QString qtFilterFromFilterString(const QString &filter)
+{
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    QStringList out;
+    for (int i = 0; i + 1 < parts.size(); i += 2) {
+        const QString description = parts.at(i).trimmed();
+        QStringList patterns;
+        for (const QString &p : parts.at(i + 1).split(QLatin1Char(';'), Qt::SkipEmptyParts))
+            patterns << p.trimmed();
+        out << QStringLiteral("%1 (%2)").arg(description, patterns.join(QLatin1Char(' ')));
+    }
+    return out.join(QStringLiteral(";;"));
+}
+
+TModalResult QtUserDialogs::messageDlg(QWidget *parent, const QString &text, TMsgDlgType type,
+                                       TMsgDlgButtons buttons, const QString &caption)
+{
+    QMessageBox box(parent);
+    switch (type) {
+    case mtWarning: box.setIcon(QMessageBox::Warning); break;
+    case mtError: box.setIcon(QMessageBox::Critical); break;
+    case mtInformation: box.setIcon(QMessageBox::Information); break;
+    case mtConfirmation: box.setIcon(QMessageBox::Question); break;
+    case mtCustom: box.setIcon(QMessageBox::NoIcon); break;
+    }
+    static const char *const defaultCaptions[] = {"Warnung", "Fehler", "Information", "Bestätigen", ""};
+    box.setWindowTitle(caption.isEmpty() ? QString::fromUtf8(defaultCaptions[type]) : caption);
+    box.setText(text);
+
+    struct Choice
+    {
+        TMsgDlgBtn flag;
+        const char *text;
+        QMessageBox::ButtonRole role;
+        TModalResult result;
+    };
+    static const Choice choices[] = {
+        {mbYes, "&Ja", QMessageBox::YesRole, mrYes},
+        {mbNo, "&Nein", QMessageBox::NoRole, mrNo},
+        {mbOK, "OK", QMessageBox::AcceptRole, mrOk},
+        {mbCancel, "Abbrechen", QMessageBox::RejectRole, mrCancel},
+        {mbAbort, "&Abbrechen", QMessageBox::RejectRole, mrAbort},
+        {mbRetry, "&Wiederholen", QMessageBox::ActionRole, mrRetry},
+        {mbIgnore, "&Ignorieren", QMessageBox::ActionRole, mrIgnore},
+    };
+    QHash<QAbstractButton *, TModalResult> results;
+    for (const Choice &c : choices) {
+        if (buttons & c.flag)
+            results.insert(box.addButton(QString::fromUtf8(c.text), c.role), c.result);
+    }
+    if (results.isEmpty())
+        results.insert(box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole), mrOk);
+    box.exec();
+    return results.value(box.clickedButton(), mrCancel);
+}
+
+bool QtUserDialogs::fileDialog(QWidget *parent, TFileDialog &dialog)
+{
+    QFileDialog fd(parent, dialog.title);
+    fd.setAcceptMode(dialog.kind == TFileDialog::Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    if (dialog.kind == TFileDialog::Open)
+        fd.setFileMode(dialog.allowMultiSelect ? QFileDialog::ExistingFiles
+                                               : (dialog.fileMustExist ? QFileDialog::ExistingFile
+                                                                       : QFileDialog::AnyFile));
+    fd.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwritePrompt);
+    const QStringList filters = qtFilterFromFilterString(dialog.filter).split(QStringLiteral(";;"),
+                                                                                Qt::SkipEmptyParts);
+    fd.setNameFilters(filters);
+    if (dialog.filterIndex >= 1 && dialog.filterIndex <= filters.size())
+        fd.selectNameFilter(filters.at(dialog.filterIndex - 1));
+    fd.setDefaultSuffix(dialog.defaultExt);
+    QString dir = dialog.initialDir;
+    if (dir.isEmpty() && !dialog.fileName.isEmpty())
+        dir = QFileInfo(dialog.fileName).absolutePath();
+    if (!dir.isEmpty())
+        fd.setDirectory(dir);
+    if (!dialog.fileName.isEmpty())
+        fd.selectFile(QFileInfo(dialog.fileName).fileName());
+    if (fd.exec() != QDialog::Accepted || fd.selectedFiles().isEmpty())
+        return false;
+    dialog.files.clear();
+    for (const QString &f : fd.selectedFiles())
+        dialog.files << QDir::toNativeSeparators(f);
+    dialog.fileName = dialog.files.first();
+    dialog.filterIndex = int(filters.indexOf(fd.selectedNameFilter())) + 1;
+    return true;
+}
+
+std::optional<TColor> QtUserDialogs::colorDialog(QWidget *parent, TColor initial)
+{
+    const QColor chosen = QColorDialog::getColor(initial.toQColor(), parent);
+    if (!chosen.isValid())
+        return std::nullopt;
+    return TColor::fromQColor(chosen);
+}
+
+std::optional<QFont> QtUserDialogs::fontDialog(QWidget *parent, const QFont &initial)
+{
+    bool ok = false;
+    const QFont font = QFontDialog::getFont(&ok, initial, parent);
+    if (!ok)
+        return std::nullopt;
+    return font;
+}
+
+QString QtUserDialogs::directoryDialog(QWidget *parent, const QString &caption, const QString &initial)
+{
+    return QFileDialog::getExistingDirectory(parent, caption, initial);
+}
+
+int QtUserDialogs::execDialog(QDialog *dialog)
+{
+    return dialog->exec();
+}

@@ -1,0 +1,291 @@
+// The attribute layer shared by all control classes: tab order per parent,
+// aligned children, colours, automatic captions, loading state, and the
+// published property lists.
+#include <QtTest>
+
+#include "CommonProps.h"
+#include "Components.h"
+#include "Containers.h"
+#include "ControlClasses.h"
+#include "Graphics.h"
+#include "MyBtn.h"
+
+class TestControlLayer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tabOrderIsPerParentAndFollowsReparenting();
+    void alignedChildrenShareTheClientArea();
+    void systemColoursKeepTheirIdentity();
+    void captionFollowsTheNameUntilChanged();
+    void autoSizeWaitsWhileLoading();
+    void everyPropertySurvivesItsTextForm();
+    void maskButtonAndDataLabelPublishTheirFields();
+    void geometryIsClampedNotCrashed();
+};
+
+void TestControlLayer::tabOrderIsPerParentAndFollowsReparenting()
+{
+    QWidget surface;
+    auto *a = new TMaskBtn(&surface);
+    auto *b = new TMaskBtn(&surface);
+    auto *panel = new TPanel(&surface);
+    auto *c = new TMaskBtn(&surface);
+    auto *label = new TLabel(&surface);
+
+    QCOMPARE(a->TabOrder(), 0);
+    QCOMPARE(b->TabOrder(), 1);
+    QCOMPARE(panel->TabOrder(), 2);
+    QCOMPARE(c->TabOrder(), 3);
+    QCOMPARE(label->TabOrder(), -1); // a graphic control takes no focus
+
+    c->setTabOrder(0);
+    QCOMPARE(Containers::tabList(&surface), (QList<QWidget *>{c, a, b, panel}));
+    c->setTabOrder(99); // past the end: last
+    QCOMPARE(c->TabOrder(), 3);
+    c->setTabOrder(-1); // ignored
+    QCOMPARE(c->TabOrder(), 3);
+
+    // Moving to the panel starts a new numbering there and closes the gap here.
+    b->setParent(panel);
+    QCOMPARE(b->TabOrder(), 0);
+    QCOMPARE(Containers::tabList(&surface), (QList<QWidget *>{a, panel, c}));
+    auto *d = new TMaskBtn(panel);
+    QCOMPARE(d->TabOrder(), 1);
+    delete b;
+    QCOMPARE(d->TabOrder(), 0);
+    QCOMPARE(Containers::tabList(panel), (QList<QWidget *>{d}));
+
+    // The focus chain follows the tab order.
+    surface.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&surface));
+    a->setTabOrder(1); // panel, a, c
+    QCOMPARE(a->nextInFocusChain(), static_cast<QWidget *>(c));
+}
+
+void TestControlLayer::alignedChildrenShareTheClientArea()
+{
+    QWidget surface;
+    surface.resize(400, 300);
+    auto *top = new TPanel(&surface);
+    top->setHeight(40);
+    top->setAlign(alTop);
+    auto *bottom = new TPanel(&surface);
+    bottom->setHeight(30);
+    bottom->setAlign(alBottom);
+    auto *left = new TPanel(&surface);
+    left->setWidth(50);
+    left->setAlign(alLeft);
+    auto *right = new TPanel(&surface);
+    right->setWidth(60);
+    right->setAlign(alRight);
+    auto *client = new TPanel(&surface);
+    client->setAlign(alClient);
+    auto *free = new TPanel(&surface);
+    free->setBounds(5, 6, 7, 8);
+
+    QCOMPARE(top->geometry(), QRect(0, 0, 400, 40));
+    QCOMPARE(bottom->geometry(), QRect(0, 270, 400, 30));
+    QCOMPARE(left->geometry(), QRect(0, 40, 50, 230));
+    QCOMPARE(right->geometry(), QRect(340, 40, 60, 230));
+    QCOMPARE(client->geometry(), QRect(50, 40, 290, 230));
+    QCOMPARE(free->geometry(), QRect(5, 6, 7, 8));
+
+    // The container grows: everything follows.
+    surface.resize(500, 400);
+    QCOMPARE(bottom->geometry(), QRect(0, 370, 500, 30));
+    QCOMPARE(client->geometry(), QRect(50, 40, 390, 330));
+
+    // A second top control stacks below the first by position.
+    auto *top2 = new TPanel(&surface);
+    top2->setBounds(0, 100, 10, 20);
+    top2->setAlign(alTop);
+    QCOMPARE(top2->geometry(), QRect(0, 40, 500, 20));
+    QCOMPARE(client->geometry(), QRect(50, 60, 390, 310));
+
+    // Changing the height of an aligned control moves the others.
+    top->setHeight(10);
+    QCOMPARE(top2->geometry().top(), 10);
+    QCOMPARE(client->geometry().top(), 30);
+
+    // Deleting one gives its room back; un-aligning frees it.
+    delete top2;
+    QCOMPARE(client->geometry().top(), 10);
+    left->setAlign(alNone);
+    QCOMPARE(client->geometry().left(), 0);
+
+    // Children of a panel share the panel's area inside its bevel.
+    client->setBevelOuter(bvRaised);
+    client->setBevelWidth(3);
+    auto *inner = new TPanel(client);
+    inner->setAlign(alClient);
+    QCOMPARE(inner->geometry(), client->rect().adjusted(3, 3, -3, -3));
+    client->setBevelInner(bvLowered);
+    QCOMPARE(inner->geometry(), client->rect().adjusted(6, 6, -6, -6));
+}
+
+void TestControlLayer::systemColoursKeepTheirIdentity()
+{
+    TPanel panel;
+    const TPropInfo *color = panel.classInfo().property(QStringLiteral("Color"));
+    QVERIFY(color);
+    panel.setColor(Colors::clWindow);
+    QCOMPARE(panel.Color(), Colors::clWindow);
+    QVERIFY(panel.Color() != Colors::clWhite);
+    QCOMPARE(propertyValueToText(*color, color->read(&panel)), QStringLiteral("clWindow"));
+    // Painted with the palette's colour for it.
+    QCOMPARE(panel.palette().color(QPalette::Window), QApplication::palette().color(QPalette::Base));
+
+    color->write(&panel, *propertyValueFromText(*color, QStringLiteral("$00ff0000")));
+    QCOMPARE(panel.Color(), Colors::clBlue);
+    QCOMPARE(panel.palette().color(QPalette::Window), QColor(0, 0, 255));
+
+    // A label shows its parent's colour until it gets its own.
+    auto *label = new TLabel(&panel);
+    QVERIFY(label->ParentColor());
+    QCOMPARE(label->Color(), Colors::clBlue);
+    label->setColor(Colors::clYellow);
+    QVERIFY(!label->ParentColor());
+    QCOMPARE(label->Color(), Colors::clYellow);
+}
+
+void TestControlLayer::captionFollowsTheNameUntilChanged()
+{
+    QWidget owner;
+    auto *label = new TLabel(&owner);
+    Components::setOwner(label, &owner);
+    QVERIFY(AutoName(label, &owner));
+    QCOMPARE(label->Caption(), QStringLiteral("Label1"));
+    label->setObjectName(QStringLiteral("Label7"));
+    QCOMPARE(label->Caption(), QStringLiteral("Label7"));
+    label->setCaption(QStringLiteral("Kunde:"));
+    label->setObjectName(QStringLiteral("Label8"));
+    QCOMPARE(label->Caption(), QStringLiteral("Kunde:"));
+
+    // Kinds without the rule keep their caption empty.
+    auto *bevel = new TBevel(&owner);
+    Components::setOwner(bevel, &owner);
+    QVERIFY(AutoName(bevel, &owner));
+    QCOMPARE(bevel->objectName(), QStringLiteral("Bevel1"));
+    QCOMPARE(bevel->Caption(), QString());
+
+    // While loading, the name never overwrites the caption read from the file.
+    auto *button = new TMaskBtn(&owner);
+    button->beginLoading();
+    button->setCaption(QStringLiteral("Suchen"));
+    button->setObjectName(QStringLiteral("Suchen"));
+    button->setObjectName(QStringLiteral("MaskBtn1"));
+    button->endLoading();
+    QCOMPARE(button->Caption(), QStringLiteral("Suchen"));
+}
+
+void TestControlLayer::autoSizeWaitsWhileLoading()
+{
+    TLabel label;
+    label.beginLoading();
+    label.setBounds(10, 10, 300, 40);
+    label.setCaption(QStringLiteral("Ein ziemlich langer Beschriftungstext"));
+    TFont font = label.Font();
+    font.Size = 20;
+    label.setFont(font);
+    label.endLoading();
+    QCOMPARE(label.geometry(), QRect(10, 10, 300, 40));
+
+    // Outside loading the label fits its text again.
+    label.setCaption(QStringLiteral("Kurz"));
+    QVERIFY(label.width() < 300);
+    QCOMPARE(label.height(), QFontMetrics(label.font()).height());
+    label.setAutoSize(false);
+    label.setWidth(200);
+    label.setCaption(QStringLiteral("x"));
+    QCOMPARE(label.width(), 200);
+}
+
+void TestControlLayer::everyPropertySurvivesItsTextForm()
+{
+    QWidget owner;
+    for (const TClassInfo *info : ControlClasses::all()) {
+        QWidget *w = info->create();
+        QVERIFY2(w, qPrintable(info->className));
+        w->setParent(&owner);
+        QCOMPARE(QString::fromLatin1(w->metaObject()->className()), info->className);
+        QCOMPARE(ControlClasses::find(info->className.toUpper()), info);
+        QVERIFY(TControl::from(w));
+        QCOMPARE(&TControl::from(w)->classInfo(), info);
+        QStringList seen;
+        for (const TPropInfo &p : info->properties) {
+            QVERIFY2(!seen.contains(p.name, Qt::CaseInsensitive), qPrintable(info->className + "." + p.name));
+            seen << p.name;
+            const QVariant value = p.read(w);
+            QVERIFY2(value.isValid(), qPrintable(info->className + "." + p.name));
+            const QString text = propertyValueToText(p, value);
+            const auto back = propertyValueFromText(p, text);
+            QVERIFY2(back.has_value(), qPrintable(info->className + "." + p.name + " = " + text));
+            QCOMPARE(propertyValueToText(p, *back), text);
+            // Writing the value back changes nothing.
+            p.write(w, *back);
+            QCOMPARE(propertyValueToText(p, p.read(w)), text);
+        }
+        for (const QString &common : {"Left", "Top", "Width", "Height", "Tag", "Hint", "HelpKeyword"})
+            QVERIFY2(info->property(QString::fromLatin1(common)), qPrintable(info->className + " lacks " + common));
+    }
+    QCOMPARE(ControlClasses::all().size(), 20);
+    QVERIFY(!ControlClasses::find(QStringLiteral("TForm")));
+    QVERIFY(!ControlClasses::create(QStringLiteral("")));
+}
+
+void TestControlLayer::maskButtonAndDataLabelPublishTheirFields()
+{
+    TMaskBtn button;
+    QCOMPARE(button.Tag(), 0);
+    QCOMPARE(button.Margin(), -1);
+    QCOMPARE(button.FoundMask(), 0);
+    QCOMPARE(button.Language(), 0);
+    const QStringList own = {"ZuweisMaske", "ZuweisFeld",    "ZuweisFeldEx", "IndexFeld",   "ProgExt",
+                             "SectionExt",  "FoundMask",     "Language",     "RunAs",       "RegelFeld",
+                             "RegelAusdruck", "RegelFarbe", "RegelZeile"};
+    QStringList published;
+    for (const TPropInfo &p : button.classInfo().properties)
+        if (own.contains(p.name))
+            published << p.name;
+    QCOMPARE(published, own); // all of them, in this order
+
+    const TClassInfo &info = button.classInfo();
+    info.property(QStringLiteral("RegelAusdruck"))->write(&button, QStringLiteral("Menge > 10"));
+    info.property(QStringLiteral("RunAs"))->write(&button, true);
+    info.property(QStringLiteral("Margin"))->write(&button, 300);
+    QCOMPARE(button.RegelAusdruck(), QStringLiteral("Menge > 10"));
+    QVERIFY(button.RunAs());
+    QCOMPARE(button.Margin(), 255);
+
+    // The button's own text colour wins over the font colour.
+    TFont font = button.Font();
+    font.Color = Colors::clRed;
+    button.setFont(font);
+    QCOMPARE(button.palette().color(QPalette::ButtonText), QColor(255, 0, 0));
+    button.setNormalTextColor(Colors::clGreen);
+    QCOMPARE(button.palette().color(QPalette::ButtonText), QColor(0, 128, 0));
+
+    TDBLabel dbLabel;
+    QVERIFY(qobject_cast<TLabel *>(&dbLabel));
+    QCOMPARE(QString::fromLatin1(dbLabel.metaObject()->className()), QStringLiteral("TDBLabel"));
+    QVERIFY(dbLabel.classInfo().property(QStringLiteral("DataField")));
+    QVERIFY(dbLabel.classInfo().property(QStringLiteral("WordWrap")));
+    QVERIFY(!TLabel::staticClassInfo().property(QStringLiteral("DataField")));
+}
+
+void TestControlLayer::geometryIsClampedNotCrashed()
+{
+    TPanel panel;
+    panel.setBounds(-2147483647 - 1, 2147483647, -2147483647 - 1, 2147483647);
+    QVERIFY(panel.Width() >= 0);
+    QVERIFY(panel.Height() >= 0);
+    panel.setWidth(-5);
+    QCOMPARE(panel.Width(), 0);
+    panel.setBounds(1, 2, 3, 4);
+    QCOMPARE(panel.geometry(), QRect(1, 2, 3, 4));
+}
+
+QTEST_MAIN(TestControlLayer)
+#include "test_controllayer.moc"
