@@ -13,13 +13,15 @@ const char kOwnerProperty[] = "_ferolith_owner";
 class ComponentRegistry : public QObject
 {
 public:
-    explicit ComponentRegistry(QObject *owner) : QObject(owner)
+    explicit ComponentRegistry(QObject *owner) : QObject(owner), m_owner(owner)
     {
         setObjectName(QStringLiteral("_ferolith_components"));
+        byOwner().insert(owner, this);
     }
 
     ~ComponentRegistry() override
     {
+        byOwner().remove(m_owner);
         for (QObject *c : std::as_const(m_items)) {
             QObject::disconnect(c, nullptr, this, nullptr);
             c->setProperty(kOwnerProperty, QVariant());
@@ -83,7 +85,16 @@ public:
 
     const QList<QObject *> &items() const { return m_items; }
 
+    // Owners with components; looked up on every name check, so not by
+    // searching the owner's children.
+    static QHash<const QObject *, ComponentRegistry *> &byOwner()
+    {
+        static QHash<const QObject *, ComponentRegistry *> map;
+        return map;
+    }
+
 private:
+    const QObject *m_owner;
     QList<QObject *> m_items;
     QMultiHash<QString, QObject *> m_byName;
     QHash<QObject *, QString> m_names;
@@ -93,8 +104,7 @@ ComponentRegistry *registryOf(const QObject *owner, bool create)
 {
     if (!owner)
         return nullptr;
-    auto *reg = owner->findChild<ComponentRegistry *>(QStringLiteral("_ferolith_components"),
-                                                       Qt::FindDirectChildrenOnly);
+    ComponentRegistry *reg = ComponentRegistry::byOwner().value(owner);
     if (!reg && create)
         reg = new ComponentRegistry(const_cast<QObject *>(owner));
     return reg;

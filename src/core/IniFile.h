@@ -29,9 +29,10 @@ public:
     const QString &fileName() const { return m_fileName; }
     void setFileName(const QString &fileName) { m_fileName = fileName; }
 
-    // Replaces the content with the file's. On failure the object is empty and
-    // errorMessage (when given) holds a German sentence naming the file and the
-    // reason. A missing file is a failure here.
+    // Replaces the content with the file's and binds the object to fileName.
+    // On failure the object is empty and errorMessage (when given) holds a
+    // German sentence naming the file and the reason. A missing file is a
+    // failure here; files over 1 GiB are refused unread.
     bool load(const QString &fileName, QString *errorMessage = nullptr);
     // Writes the whole content to fileName (the bound file when empty). The file
     // is written completely before it replaces an existing one.
@@ -52,6 +53,10 @@ public:
     bool readBool(const QString &section, const QString &key, bool defaultValue) const;
     TColor readColor(const QString &section, const QString &key, TColor defaultValue) const;
 
+    // A new key goes to the end of its section, a new section to the end of
+    // the file; an existing key keeps its place and spelling. Line breaks in
+    // names and values become blanks, so that what is written reads back as
+    // one line; an empty key name is not written.
     void writeString(const QString &section, const QString &key, const QString &value);
     void writeInteger(const QString &section, const QString &key, qint32 value);
     void writeBool(const QString &section, const QString &key, bool value);
@@ -120,7 +125,11 @@ private:
 // The profile functions for the settings file: one key read or written at a
 // time. Writing changes only the line of that key (or adds it), leaves the
 // rest of the file byte for byte as it stands, and creates the file when it
-// is missing.
+// is missing. A new key goes after the last filled line of its section, a new
+// section to the end; new lines take the file's line ends (CR LF in a new
+// file). The file stays Windows-1252, or UTF-8 when it starts with the UTF-8
+// byte-order mark. A file the profile functions create is readable and
+// writable by its owner only, since it may hold a password.
 namespace Profile {
 
 QString readString(const QString &fileName, const QString &section, const QString &key,
@@ -132,7 +141,8 @@ TColor readColor(const QString &fileName, const QString &section, const QString 
                  TColor defaultValue);
 
 // Returns false (with a German message in errorMessage when given) when the
-// file cannot be written.
+// file cannot be read or written, or the key name is empty; the file is then
+// left as it was.
 bool writeString(const QString &fileName, const QString &section, const QString &key,
                  const QString &value, QString *errorMessage = nullptr);
 bool writeInteger(const QString &fileName, const QString &section, const QString &key, qint32 value,

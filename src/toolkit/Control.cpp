@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QHash>
 #include <QPalette>
 #include <algorithm>
 
@@ -27,8 +28,7 @@ public:
     {
         if (!container)
             return nullptr;
-        auto *info = container->findChild<ContainerInfo *>(QStringLiteral("_ferolith_container"),
-                                                           Qt::FindDirectChildrenOnly);
+        ContainerInfo *info = byContainer().value(container);
         if (!info && create)
             info = new ContainerInfo(container);
         return info;
@@ -38,6 +38,16 @@ public:
     {
         setObjectName(QStringLiteral("_ferolith_container"));
         container->installEventFilter(this);
+        byContainer().insert(container, this);
+    }
+
+    ~ContainerInfo() override { byContainer().remove(m_container); }
+
+    // Looked up for every control on every move; a hash beats searching children.
+    static QHash<const QWidget *, ContainerInfo *> &byContainer()
+    {
+        static QHash<const QWidget *, ContainerInfo *> map;
+        return map;
     }
 
     QList<QPointer<QWidget>> tabs;
