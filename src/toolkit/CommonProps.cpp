@@ -31,16 +31,15 @@ TPropInfo HelpKeyword()
 TPropInfo TabOrder() { return prop("TabOrder", &TControl::TabOrder, &TControl::setTabOrder); }
 TPropInfo TabStop() { return prop("TabStop", &TControl::TabStop, &TControl::setTabStop); }
 namespace {
-TPropInfo widgetFlag(const QString &name, bool (QWidget::*getter)() const, void (QWidget::*setter)(bool),
-                     bool inverted)
+TPropInfo widgetFlag(const QString &name, bool (QWidget::*getter)() const, void (QWidget::*setter)(bool))
 {
     TPropInfo info;
     info.name = name;
     info.type = TPropType::Boolean;
     info.defaultValue = true;
-    info.get = [getter, inverted](const QObject *o) -> QVariant {
+    info.get = [getter](const QObject *o) -> QVariant {
         const auto *w = qobject_cast<const QWidget *>(o);
-        return w ? QVariant(bool((w->*getter)()) != inverted) : QVariant();
+        return w ? QVariant(bool((w->*getter)())) : QVariant();
     };
     info.set = [setter](QObject *o, const QVariant &v) {
         if (auto *w = qobject_cast<QWidget *>(o))
@@ -49,10 +48,25 @@ TPropInfo widgetFlag(const QString &name, bool (QWidget::*getter)() const, void 
     return info;
 }
 } // namespace
-TPropInfo Visible() { return widgetFlag(QStringLiteral("Visible"), &QWidget::isHidden, &QWidget::setVisible, true); }
+TPropInfo Visible()
+{
+    TPropInfo info;
+    info.name = QStringLiteral("Visible");
+    info.type = TPropType::Boolean;
+    info.defaultValue = true;
+    info.get = [](const QObject *o) -> QVariant {
+        const TControl *c = TControl::from(o);
+        return c ? QVariant(c->Visible()) : QVariant();
+    };
+    info.set = [](QObject *o, const QVariant &v) {
+        if (auto *w = qobject_cast<QWidget *>(o))
+            w->setVisible(v.toBool()); // virtual: records the control's own flag
+    };
+    return info;
+}
 TPropInfo Enabled()
 {
-    return widgetFlag(QStringLiteral("Enabled"), &QWidget::isEnabled, &QWidget::setEnabled, false);
+    return widgetFlag(QStringLiteral("Enabled"), &QWidget::isEnabled, &QWidget::setEnabled);
 }
 } // namespace CommonProps
 

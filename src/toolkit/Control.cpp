@@ -120,7 +120,7 @@ void alignControls(QWidget *container)
     QList<TControl *> byAlign[alCustom + 1];
     for (QObject *child : container->children()) {
         TControl *c = TControl::from(child);
-        if (c && c->Align() != alNone && c->Align() != alCustom && !c->widget()->isHidden())
+        if (c && c->Align() != alNone && c->Align() != alCustom && c->Visible())
             byAlign[c->Align()].append(c);
     }
     // Controls of one alignment stack in the order of their current position.
@@ -381,6 +381,8 @@ void TControl::parentChanged()
     }
     if (m_parentColor)
         applyColor();
+    if (m_visible && parent->isVisible() && m_self->isHidden())
+        m_self->QWidget::setVisible(true);
     requestParentAlign();
     parentWidgetChanged(oldParent);
 }

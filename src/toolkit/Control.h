@@ -39,8 +39,11 @@ public:
     void setHeight(int value);
     void setBounds(int left, int top, int width, int height);
 
-    // Visible and Enabled are the widget's own (setVisible, setEnabled).
-    bool Visible() const { return !m_self->isHidden(); }
+    // Whether the control shows when its parent does. A control is visible
+    // from its creation on: put on a parent that shows, it shows too. Set it
+    // with the widget's setVisible; code that only switches what is on screen
+    // (a pager hiding its inactive pages) calls QWidget::setVisible directly.
+    bool Visible() const { return m_visible; }
     bool Enabled() const { return m_self->isEnabled(); }
 
     int Tag() const { return m_tag; }
@@ -124,6 +127,7 @@ private:
     TColor m_fontColor = Colors::clWindowText;
     bool m_parentFont = true;
     bool m_tabStop = true;
+    bool m_visible = true;
     int m_state = 0;
 
     template <class> friend class TControlT;
@@ -142,6 +146,12 @@ public:
     using TControl::setFont;
     using Base::setTabOrder;
     using TControl::setTabOrder;
+
+    void setVisible(bool visible) override
+    {
+        m_visible = visible;
+        Base::setVisible(visible);
+    }
 
 protected:
     bool event(QEvent *e) override

@@ -76,7 +76,7 @@ void TAdvOfficePager::setActivePageIndex(int index)
     const bool changed = index != m_activeIndex;
     m_activeIndex = index;
     for (int i = 0; i < m_pages.size(); ++i)
-        m_pages.at(i)->setVisible(i == index);
+        m_pages.at(i)->QWidget::setVisible(i == index);
     syncTabs();
     if (changed)
         emit activePageChanged(index);
@@ -117,7 +117,7 @@ void TAdvOfficePager::insertPage(TAdvOfficePage *page, int index)
             active = m_pages.value(m_activeIndex + 1);
         m_activeIndex = indexOfPage(active);
         for (int i = 0; i < m_pages.size(); ++i)
-            m_pages.at(i)->setVisible(i == m_activeIndex);
+            m_pages.at(i)->QWidget::setVisible(i == m_activeIndex);
         syncTabs();
     }
 }

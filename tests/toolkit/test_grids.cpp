@@ -1,0 +1,557 @@
+// The grids of a mask: the data grid, the tree list and the string grid.
+// Their columns and title fonts, fixed cells, and how they behave while
+// the form is being designed.
+#include <QtTest>
+
+#include <QHash>
+#include <QHeaderView>
+#include <QLineEdit>
+
+#include "CommonProps.h"
+#include "Grids.h"
+
+namespace {
+
+const QList<const TClassInfo *> &gridClasses()
+{
+    static const QList<const TClassInfo *> classes = {
+        &TDBGrid::staticClassInfo(), &TcxDBTreeList::staticClassInfo(), &TStringGrid::staticClassInfo()};
+    return classes;
+}
+
+QString describe(const TPropInfo &p, const QVariant &v)
+{
+    return p.name + QLatin1Char('=') + propertyValueToText(p, v);
+}
+
+// A value of the property's type that differs from the current one. Strings
+// are lower case so that a CharCase set alongside leaves them alone.
+QVariant otherValue(const TPropInfo &p, const QVariant &current, int salt)
+{
+    switch (p.type) {
+    case TPropType::Integer: return current.toInt() + 7 + salt;
+    case TPropType::Boolean: return !current.toBool();
+    case TPropType::String: return QStringLiteral("wert-%1").arg(p.name.toLower());
+    case TPropType::Color:
+        return QVariant::fromValue(current.value<TColor>() == Colors::clYellow ? Colors::clRed : Colors::clYellow);
+    case TPropType::Enum: return current.toInt() == 0 ? int(p.enumNames.size()) - 1 : 0;
+    case TPropType::Font: {
+        TFont f;
+        f.Name = QStringLiteral("DejaVu Serif");
+        f.Size = 14 + salt % 5;
+        f.Color = Colors::clMaroon;
+        f.Style = fsBold | fsItalic;
+        return QVariant::fromValue(f);
+    }
+    case TPropType::Strings: return QStringList{QStringLiteral("eins=41"), QStringLiteral("zwei=42")};
+    case TPropType::Set: break;
+    }
+    return current;
+}
+
+// Writes a new value to every published property (but those in skip), then
+// reads them all back through the same descriptors: a setter writing the
+// wrong attribute shows up as a value that did not stick or one that moved.
+// The control sits second among two on its parent, so TabOrder can change.
+QHash<QString, QVariant> writeEveryProperty(QWidget *w, const QStringList &skip = {})
+{
+    const TClassInfo &info = TControl::from(w)->classInfo();
+    // The new values are chosen from the fresh state, so that a pair like
+    // Font and ParentFont is written consistently.
+    QHash<QString, QVariant> fresh;
+    for (const TPropInfo &p : info.properties)
+        fresh.insert(p.name, p.read(w));
+    QHash<QString, QVariant> written;
+    int salt = 0;
+    for (const TPropInfo &p : info.properties) {
+        if (skip.contains(p.name))
+            continue;
+        const QVariant before = fresh.value(p.name);
+        const QVariant value = p.name == QLatin1String("TabOrder") ? QVariant(0) : otherValue(p, before, salt++);
+        if (value == before) {
+            QTest::qFail(qPrintable(info.className + ": no other value for " + describe(p, before)), __FILE__,
+                         __LINE__);
+            return written;
+        }
+        p.write(w, value);
+        written.insert(p.name, value);
+    }
+    for (const TPropInfo &p : info.properties) {
+        if (!written.contains(p.name))
+            continue;
+        const QVariant got = p.read(w);
+        const QVariant want = written.value(p.name);
+        if (got != want) {
+            QTest::qFail(qPrintable(info.className + ": " + describe(p, got) + ", written " + describe(p, want)),
+                         __FILE__, __LINE__);
+            return written;
+        }
+    }
+    // Every ordinal of every enumeration sticks.
+    for (const TPropInfo &p : info.properties) {
+        if (p.type != TPropType::Enum)
+            continue;
+        for (int ordinal = 0; ordinal < p.enumNames.size(); ++ordinal) {
+            p.write(w, ordinal);
+            if (p.read(w).toInt() != ordinal) {
+                QTest::qFail(qPrintable(info.className + "." + p.name + " does not keep " + p.enumNames.at(ordinal)),
+                             __FILE__, __LINE__);
+                return written;
+            }
+        }
+    }
+    return written;
+}
+
+QWidget *createSecond(const TClassInfo &info, QWidget *parent)
+{
+    new TStringGrid(parent);
+    QWidget *w = info.create();
+    w->setParent(parent);
+    return w;
+}
+
+bool isReddish(QColor c)
+{
+    return c.red() > 120 && c.green() < 90 && c.blue() < 90;
+}
+
+int countPixels(const QImage &image, const std::function<bool(QColor)> &match)
+{
+    int n = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            n += match(image.pixelColor(x, y)) ? 1 : 0;
+    return n;
+}
+
+// The colour in the middle of a cell as the grid paints it.
+QColor cellColor(QTableWidget *grid, int row, int column)
+{
+    const QRect r = grid->visualRect(grid->model()->index(row, column));
+    return grid->viewport()->grab().toImage().pixelColor(r.center().x(), r.top() + 3);
+}
+
+// Types as a user does: each key goes to whatever has the focus by then.
+void typeIntoFocus(const QString &text)
+{
+    for (const QChar ch : text)
+        QTest::keyClick(QApplication::focusWidget(), ch.toLatin1());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+}
+
+TFont bigRedFont()
+{
+    TFont f;
+    f.Name = QStringLiteral("DejaVu Sans");
+    f.Size = 16;
+    f.Color = Colors::clRed;
+    f.Style = fsBold;
+    return f;
+}
+
+} // namespace
+
+class TestGrids : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void classesAndFreshState();
+    void everyPropertyRoundTrips();
+    void dbGridColumnsBuildTheHeader();
+    void titleFontStylesTheHeaderOnly();
+    void treeListColumnsAndDragging();
+    void stringGridSizesAndFixedCells();
+    void fixedCellsStayOutOfTheUsersWay();
+    void readOnlyDataGridOpensNoEditor();
+    void designingTakesNoFocusAndNoInput();
+    void colorAndFontReachThePaint();
+};
+
+void TestGrids::classesAndFreshState()
+{
+    const QStringList names = {"TDBGrid", "TcxDBTreeList", "TStringGrid"};
+    const QList<QSize> sizes = {QSize(320, 120), QSize(250, 150), QSize(320, 120)};
+    QWidget owner;
+    for (int i = 0; i < gridClasses().size(); ++i) {
+        const TClassInfo *info = gridClasses().at(i);
+        QCOMPARE(info->className, names.at(i));
+        QWidget *w = info->create();
+        QVERIFY(w);
+        w->setParent(&owner);
+        QCOMPARE(QString::fromLatin1(w->metaObject()->className()), names.at(i));
+        QCOMPARE(&TControl::from(w)->classInfo(), info);
+        QVERIFY(info->windowed);
+        QVERIFY(!info->acceptsControls);
+        QCOMPARE(w->size(), sizes.at(i));
+        QCOMPARE(TControl::from(w)->Color(), Colors::clWindow);
+        for (const TPropInfo &p : info->properties) {
+            if (p.defaultValue.isValid())
+                QVERIFY2(p.isDefault(w), qPrintable(info->className + ": " + describe(p, p.read(w))));
+        }
+        for (const char *common : {"Left", "Top", "Width", "Height", "Align", "Color", "Font", "ParentFont",
+                                   "TabOrder", "TabStop", "Tag", "Hint", "ShowHint", "HelpKeyword", "Visible",
+                                   "Enabled"})
+            QVERIFY2(info->property(QString::fromLatin1(common)), qPrintable(info->className + " lacks " + common));
+        // A grid has no caption to follow its name.
+        const QVariant columns = info->property(QStringLiteral("Width"))->read(w);
+        w->setObjectName(names.at(i).mid(1) + QLatin1Char('1'));
+        QCOMPARE(info->property(QStringLiteral("Width"))->read(w), columns);
+    }
+    TDBGrid grid;
+    QCOMPARE(grid.columnCount(), 0);
+    QCOMPARE(grid.rowCount(), 0);
+    TcxDBTreeList tree;
+    QCOMPARE(tree.KeyField(), QStringLiteral("QXID"));
+    QCOMPARE(tree.ParentField(), QStringLiteral("QXParent"));
+    QCOMPARE(tree.Columns(), QStringList{QStringLiteral("Spalte=100")});
+    TStringGrid strings;
+    QCOMPARE(strings.columnCount(), 5);
+    QCOMPARE(strings.rowCount(), 5);
+    QCOMPARE(strings.columnWidth(3), 64);
+    QCOMPARE(strings.rowHeight(3), 24);
+}
+
+void TestGrids::everyPropertyRoundTrips()
+{
+    QWidget owner;
+    {
+        auto *g = static_cast<TDBGrid *>(createSecond(TDBGrid::staticClassInfo(), &owner));
+        const auto v = writeEveryProperty(g);
+        QCOMPARE(g->Columns(), v["Columns"].toStringList());
+        QCOMPARE(g->columnCount(), 2);
+        QCOMPARE(g->DataSource(), v["DataSource"].toString());
+        QCOMPARE(g->ReadOnly(), v["ReadOnly"].toBool());
+        QCOMPARE(g->TitleFont(), v["TitleFont"].value<TFont>());
+        QCOMPARE(g->Font(), v["Font"].value<TFont>());
+        QCOMPARE(g->TabOrder(), 0);
+    }
+    {
+        auto *t = static_cast<TcxDBTreeList *>(createSecond(TcxDBTreeList::staticClassInfo(), &owner));
+        const auto v = writeEveryProperty(t);
+        QCOMPARE(t->Columns(), v["Columns"].toStringList());
+        QCOMPARE(t->KeyField(), v["KeyField"].toString());
+        QCOMPARE(t->ParentField(), v["ParentField"].toString());
+        QCOMPARE(t->StateIndexField(), v["StateIndexField"].toString());
+        QCOMPARE(t->ImageIndexField(), v["ImageIndexField"].toString());
+        QCOMPARE(t->DragDrop(), v["DragDrop"].toBool());
+        QCOMPARE(t->TitleFont(), v["TitleFont"].value<TFont>());
+    }
+    {
+        auto *s = static_cast<TStringGrid *>(createSecond(TStringGrid::staticClassInfo(), &owner));
+        const auto v = writeEveryProperty(s);
+        QCOMPARE(s->ColCount(), v["ColCount"].toInt());
+        QCOMPARE(s->RowCount(), v["RowCount"].toInt());
+        QCOMPARE(s->FixedCols(), v["FixedCols"].toInt());
+        QCOMPARE(s->FixedRows(), v["FixedRows"].toInt());
+        QCOMPARE(s->DefaultColWidth(), v["DefaultColWidth"].toInt());
+        QCOMPARE(s->DefaultRowHeight(), v["DefaultRowHeight"].toInt());
+        QCOMPARE(s->columnCount(), s->ColCount());
+        QCOMPARE(s->rowCount(), s->RowCount());
+    }
+}
+
+void TestGrids::dbGridColumnsBuildTheHeader()
+{
+    TDBGrid grid;
+    const TPropInfo *columns = grid.classInfo().property(QStringLiteral("Columns"));
+    columns->write(&grid, QStringList{QStringLiteral("Spaltentitel=120")});
+    QCOMPARE(grid.columnCount(), 1);
+    QCOMPARE(grid.model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Spaltentitel"));
+    QCOMPARE(grid.columnWidth(0), 120);
+    QCOMPARE(columns->read(&grid).toStringList(), QStringList{QStringLiteral("Spaltentitel=120")});
+
+    // Writing the list again replaces the columns; an entry without a width gets the default one.
+    grid.setColumns({QStringLiteral("Name=80"), QStringLiteral("Ort"), QStringLiteral("a=b=5"),
+                     QStringLiteral("Breite=x"), QStringLiteral("Schmal=3")});
+    QCOMPARE(grid.Columns(), (QStringList{"Name=80", "Ort=64", "a=b=5", "Breite=x=64", "Schmal=3"}));
+    QCOMPARE(grid.columnWidth(4), 3);
+    grid.addColumn(QStringLiteral("Plz"), 45);
+    QCOMPARE(grid.Columns().last(), QStringLiteral("Plz=45"));
+    QCOMPARE(grid.columnCount(), 6);
+    grid.setColumns({});
+    QCOMPARE(grid.columnCount(), 0);
+
+    // A column the user widens is saved with its new width.
+    grid.setColumns({QStringLiteral("Name=80")});
+    grid.horizontalHeader()->resizeSection(0, 95);
+    QCOMPARE(grid.Columns(), QStringList{QStringLiteral("Name=95")});
+
+    // The indicator column: narrow and without row numbers.
+    grid.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&grid));
+    QCOMPARE(grid.verticalHeader()->width(), 12);
+    QCOMPARE(grid.viewport()->x(), 12 + grid.frameWidth());
+    grid.insertRow(0);
+    grid.insertRow(1);
+    QCOMPARE(grid.model()->headerData(1, Qt::Vertical).toString(), QString());
+    // An empty grid shows its title row above a white area.
+    grid.setRowCount(0);
+    QVERIFY(grid.horizontalHeader()->isVisible());
+    QVERIFY(grid.horizontalHeader()->height() > 10);
+    const QImage area = grid.viewport()->grab().toImage();
+    const QColor white = Colors::clWindow.toQColor();
+    QCOMPARE(area.pixelColor(area.width() - 5, area.height() - 5), white);
+    // Its column lines run down the empty area.
+    QCOMPARE(area.pixelColor(40, area.height() - 5), white);
+    QVERIFY(area.pixelColor(94, area.height() - 5) != white);
+}
+
+void TestGrids::titleFontStylesTheHeaderOnly()
+{
+    TDBGrid grid;
+    grid.setColumns({QStringLiteral("MMMM=150")});
+    TcxDBTreeList tree;
+    tree.setColumns({QStringLiteral("MMMM=150")});
+    const QList<QPair<QAbstractItemView *, QHeaderView *>> views = {{&grid, grid.horizontalHeader()},
+                                                                     {&tree, tree.header()}};
+    for (const auto &[view, header] : views) {
+        TControl *c = TControl::from(view);
+        view->show();
+        QVERIFY(QTest::qWaitForWindowExposed(view));
+        // Until it is set, the title font is the grid's font.
+        QCOMPARE(c->classInfo().property(QStringLiteral("TitleFont"))->read(view).value<TFont>(), c->Font());
+        const int plainHeight = header->height();
+        const int fontSize = view->font().pointSize();
+        const int redBefore = countPixels(header->grab().toImage(), isReddish);
+
+        c->classInfo().property(QStringLiteral("TitleFont"))->write(view, QVariant::fromValue(bigRedFont()));
+        QCOMPARE(header->font().pointSize(), 16);
+        QVERIFY(header->font().bold());
+        QCOMPARE(view->font().pointSize(), fontSize);
+        QVERIFY(header->height() > plainHeight);
+        QVERIFY(countPixels(header->grab().toImage(), isReddish) > redBefore + 20);
+
+        // The grid's own font leaves the titles alone.
+        TFont small = c->Font();
+        small.Size = 7;
+        c->setFont(small);
+        QCOMPARE(header->font().pointSize(), 16);
+        QCOMPARE(c->classInfo().property(QStringLiteral("TitleFont"))->read(view).value<TFont>(), bigRedFont());
+    }
+}
+
+void TestGrids::treeListColumnsAndDragging()
+{
+    TcxDBTreeList tree;
+    QCOMPARE(tree.columnCount(), 1);
+    QCOMPARE(tree.headerItem()->text(0), QStringLiteral("Spalte"));
+    QCOMPARE(tree.columnWidth(0), 100);
+    const TPropInfo *columns = tree.classInfo().property(QStringLiteral("Columns"));
+    columns->write(&tree, QStringList{QStringLiteral("Bezeichnung=140"), QStringLiteral("Nr=40")});
+    QCOMPARE(tree.columnCount(), 2);
+    QCOMPARE(tree.headerItem()->text(1), QStringLiteral("Nr"));
+    QCOMPARE(tree.columnWidth(0), 140);
+    // Sizing the control keeps the column widths the mask gave.
+    tree.resize(600, 200);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    QCOMPARE(columns->read(&tree).toStringList(), (QStringList{"Bezeichnung=140", "Nr=40"}));
+
+    tree.setDragDrop(true);
+    QCOMPARE(tree.dragDropMode(), QAbstractItemView::InternalMove);
+    tree.setDragDrop(false);
+    QCOMPARE(tree.dragDropMode(), QAbstractItemView::NoDragDrop);
+}
+
+void TestGrids::stringGridSizesAndFixedCells()
+{
+    TStringGrid grid;
+    grid.resize(400, 200);
+    grid.setDefaultRowHeight(20);
+    grid.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&grid));
+    const QColor button = grid.palette().color(QPalette::Button);
+    const QColor base = grid.palette().color(QPalette::Base);
+    QVERIFY(button != base);
+    // No cell is current, so none shows as selected.
+    grid.setCurrentIndex(QModelIndex());
+
+    QCOMPARE(cellColor(&grid, 0, 0), button);
+    QCOMPARE(cellColor(&grid, 0, 3), button);
+    QCOMPARE(cellColor(&grid, 3, 0), button);
+    QCOMPARE(cellColor(&grid, 1, 1), base);
+    // Titles are cells of the grid: no header views of their own.
+    QVERIFY(grid.horizontalHeader()->isHidden());
+    QVERIFY(grid.verticalHeader()->isHidden());
+    QVERIFY(grid.showGrid());
+
+    grid.setFixedCols(2);
+    grid.setFixedRows(0);
+    QCOMPARE(cellColor(&grid, 1, 1), button);
+    QCOMPARE(cellColor(&grid, 0, 2), base);
+    QCOMPARE(cellColor(&grid, 2, 2), base);
+
+    grid.setColCount(3);
+    grid.setRowCount(7);
+    QCOMPARE(grid.columnCount(), 3);
+    QCOMPARE(grid.rowCount(), 7);
+    grid.setColCount(0); // at least one column
+    QCOMPARE(grid.ColCount(), 1);
+    grid.setColCount(6);
+
+    grid.horizontalHeader()->resizeSection(4, 30);
+    grid.setDefaultColWidth(50);
+    for (int c = 0; c < grid.columnCount(); ++c)
+        QCOMPARE(grid.columnWidth(c), 50);
+    grid.setDefaultRowHeight(18);
+    QCOMPARE(grid.rowHeight(6), 18);
+
+    // A damaged mask asking for a million lines keeps its numbers without a cell for each.
+    grid.setRowCount(1000000);
+    grid.setColCount(1000000);
+    QCOMPARE(grid.RowCount(), 1000000);
+    QCOMPARE(grid.ColCount(), 1000000);
+    QVERIFY(qint64(grid.rowCount()) * grid.columnCount() <= 1000000);
+}
+
+void TestGrids::fixedCellsStayOutOfTheUsersWay()
+{
+    TStringGrid grid;
+    grid.resize(400, 200);
+    grid.show();
+    grid.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&grid));
+    auto cellCenter = [&grid](int row, int column) {
+        return grid.visualRect(grid.model()->index(row, column)).center();
+    };
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cellCenter(2, 2));
+    QCOMPARE(grid.currentRow(), 2);
+    QCOMPARE(grid.currentColumn(), 2);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cellCenter(0, 3));
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cellCenter(3, 0));
+    QVERIFY(!grid.selectionModel()->isSelected(grid.model()->index(3, 0)));
+    QVERIFY(!grid.selectionModel()->isSelected(grid.model()->index(0, 3)));
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, cellCenter(0, 3));
+    QVERIFY(!grid.findChild<QLineEdit *>() || !grid.findChild<QLineEdit *>()->isVisible());
+
+    // The cursor keys stop at the titles.
+    grid.setCurrentCell(1, 1);
+    QTest::keyClick(&grid, Qt::Key_Left);
+    QTest::keyClick(&grid, Qt::Key_Up);
+    QTest::keyClick(&grid, Qt::Key_Home);
+    QCOMPARE(grid.currentRow(), 1);
+    QCOMPARE(grid.currentColumn(), 1);
+    QTest::keyClick(&grid, Qt::Key_Right);
+    QCOMPARE(grid.currentColumn(), 2);
+
+    // Typing in a data cell edits it.
+    typeIntoFocus(QStringLiteral("abc"));
+    QCoreApplication::processEvents(); // the editor hands its text over from the event loop
+    QVERIFY(grid.item(1, 2));
+    QCOMPARE(grid.item(1, 2)->text(), QStringLiteral("abc"));
+}
+
+void TestGrids::readOnlyDataGridOpensNoEditor()
+{
+    TDBGrid grid;
+    grid.setColumns({QStringLiteral("Name=100")});
+    grid.setRowCount(1);
+    grid.show();
+    grid.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&grid));
+    grid.setCurrentCell(0, 0);
+    auto editorOpen = [&grid] {
+        const auto *editor = grid.findChild<QLineEdit *>();
+        return editor && editor->isVisible();
+    };
+    grid.setReadOnly(true);
+    QTest::keyClicks(&grid, QStringLiteral("x"));
+    QTest::keyClick(&grid, Qt::Key_F2);
+    QVERIFY(!editorOpen());
+    grid.setReadOnly(false);
+    QTest::keyClick(&grid, Qt::Key_F2);
+    QVERIFY(editorOpen());
+}
+
+void TestGrids::designingTakesNoFocusAndNoInput()
+{
+    QWidget window;
+    window.resize(800, 300);
+    auto *grid = new TDBGrid(&window);
+    grid->setColumns({QStringLiteral("Name=100")});
+    grid->setRowCount(1);
+    auto *tree = new TcxDBTreeList(&window);
+    tree->move(330, 0);
+    auto *strings = new TStringGrid(&window);
+    strings->move(0, 150);
+    auto *other = new QLineEdit(&window);
+    other->move(600, 0);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+
+    const QList<QAbstractItemView *> views = {grid, tree, strings};
+    for (QAbstractItemView *v : views)
+        TControl::from(v)->setDesigning(true);
+    strings->setCurrentCell(1, 1);
+    for (QAbstractItemView *v : views) {
+        other->setFocus();
+        QTest::mouseClick(v->viewport(), Qt::LeftButton, {}, QPoint(30, 30));
+        QTest::mouseDClick(v->viewport(), Qt::LeftButton, {}, QPoint(30, 30));
+        QVERIFY2(!v->hasFocus(), v->metaObject()->className());
+        QTest::keyClicks(v, QStringLiteral("neu"));
+        QTest::keyClick(v, Qt::Key_F2);
+        QVERIFY2(!v->findChild<QLineEdit *>(), v->metaObject()->className());
+    }
+    QVERIFY(!strings->item(1, 1));
+    // A title can be neither dragged wider nor clicked while designing.
+    QCOMPARE(grid->horizontalHeader()->focusPolicy(), Qt::NoFocus);
+    QVERIFY(grid->horizontalHeader()->testAttribute(Qt::WA_TransparentForMouseEvents));
+
+    for (QAbstractItemView *v : views)
+        TControl::from(v)->setDesigning(false);
+    for (QAbstractItemView *v : views) {
+        other->setFocus();
+        QTest::mouseClick(v->viewport(), Qt::LeftButton, {}, QPoint(30, 30));
+        QVERIFY2(v->hasFocus(), v->metaObject()->className());
+    }
+    QVERIFY(!grid->horizontalHeader()->testAttribute(Qt::WA_TransparentForMouseEvents));
+    strings->setFocus();
+    strings->setCurrentCell(1, 1);
+    typeIntoFocus(QStringLiteral("neu"));
+    QCoreApplication::processEvents();
+    QVERIFY(strings->item(1, 1));
+    QCOMPARE(strings->item(1, 1)->text(), QStringLiteral("neu"));
+}
+
+void TestGrids::colorAndFontReachThePaint()
+{
+    QWidget window;
+    window.resize(800, 300);
+    auto *grid = new TDBGrid(&window);
+    grid->setColumns({QStringLiteral("Name=100")});
+    auto *tree = new TcxDBTreeList(&window);
+    tree->move(330, 0);
+    auto *strings = new TStringGrid(&window);
+    strings->move(0, 150);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    const QColor yellow(255, 255, 0);
+    for (QAbstractItemView *v : {static_cast<QAbstractItemView *>(grid), static_cast<QAbstractItemView *>(tree)}) {
+        const QImage before = v->viewport()->grab().toImage();
+        const QPoint empty(before.width() - 5, before.height() - 5);
+        QCOMPARE(before.pixelColor(empty), Colors::clWindow.toQColor());
+        TControl::from(v)->setColor(Colors::clYellow);
+        QCOMPARE(v->viewport()->grab().toImage().pixelColor(empty), yellow);
+    }
+    const QColor button = strings->palette().color(QPalette::Button);
+    strings->setColor(Colors::clYellow);
+    QCOMPARE(cellColor(strings, 1, 1), yellow);
+    QCOMPARE(cellColor(strings, 0, 1), button);
+
+    // The font colour is the colour of the cell text, titles included.
+    strings->setItem(1, 1, new QTableWidgetItem(QStringLiteral("MMMM")));
+    strings->setItem(0, 2, new QTableWidgetItem(QStringLiteral("MMMM")));
+    const int before = countPixels(strings->viewport()->grab().toImage(), isReddish);
+    strings->setFont(bigRedFont());
+    const QImage after = strings->viewport()->grab().toImage();
+    QVERIFY(countPixels(after, isReddish) > before + 40);
+    const QRect title = strings->visualRect(strings->model()->index(0, 2));
+    QVERIFY(countPixels(after.copy(title), isReddish) > 10);
+}
+
+QTEST_MAIN(TestGrids)
+#include "test_grids.moc"
