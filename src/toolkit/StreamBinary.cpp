@@ -2,6 +2,8 @@
 // properties (name + tagged value) up to a 0 byte, children up to a 0 byte.
 #include "StreamTree.h"
 
+#include <cstring>
+
 namespace StreamTree {
 
 namespace {
@@ -361,7 +363,7 @@ QByteArray toBinary(const Node &node)
 
 bool startsBinary(const QByteArray &data, qsizetype pos)
 {
-    return pos >= 0 && data.size() - pos >= 4 && data.mid(pos, 4) == QByteArrayView(kSignature, 4);
+    return pos >= 0 && data.size() - pos >= 4 && memcmp(data.constData() + pos, kSignature, 4) == 0;
 }
 
 ParseResult parseBinary(const QByteArray &data, qsizetype pos, Node &out)

@@ -79,6 +79,9 @@ struct ParseResult
     QString error;
 };
 
+// The set members of a font's Style, from bit 0 up.
+const QStringList &fontStyleNames();
+
 // Widgets -> tree.
 Node nodeFromWidget(QWidget *widget);
 QList<Property> propertiesOf(QWidget *widget);

@@ -4,7 +4,6 @@
 
 #include "Containers.h"
 #include "Control.h"
-#include "StreamValues.h"
 
 namespace StreamTree {
 
@@ -57,7 +56,7 @@ void addProperty(QList<Property> &out, const TPropInfo &info, const QVariant &v)
         out.append({prefix + QLatin1String("Size"), Value::fromInt(f.Size)});
         out.append({prefix + QLatin1String("Color"), colorValue(f.Color)});
         out.append({prefix + QLatin1String("Style"),
-                    Value::fromSet(setNames(int(f.Style), StreamValues::fontStyleNames()))});
+                    Value::fromSet(setNames(int(f.Style), fontStyleNames()))});
         break;
     }
     case TPropType::Strings: {
@@ -83,14 +82,21 @@ QList<QWidget *> childControls(QWidget *widget)
     for (QObject *child : widget->children()) {
         if (!TControl::from(child))
             continue;
-        auto *w = static_cast<QWidget *>(child);
-        if (!out.contains(w))
+        auto *w = qobject_cast<QWidget *>(child);
+        if (w && !out.contains(w))
             out << w;
     }
     return out;
 }
 
 } // namespace
+
+const QStringList &fontStyleNames()
+{
+    static const QStringList names = {QStringLiteral("fsBold"), QStringLiteral("fsItalic"),
+                                      QStringLiteral("fsUnderline"), QStringLiteral("fsStrikeOut")};
+    return names;
+}
 
 QList<Property> propertiesOf(QWidget *widget)
 {

@@ -51,6 +51,8 @@ QList<QWidget *> readComponents(QIODevice &in, const TReadContext &ctx, QString 
 // in the stream are created under it (owned by ctx.owner, or by the
 // component's own owner when ctx.owner is null). The stream's class must be
 // the component's; its name is taken when no other component of the owner bears it.
+// On failure the created children are removed and the name is restored;
+// properties already set stay set.
 bool readInto(QIODevice &in, QWidget *component, const TReadContext &ctx, QString *error = nullptr);
 
 // The published properties of one component as text lines "Name = Value"
