@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QPointer>
+#include <QRect>
+#include <QWidget>
+
+#include "DesignerTypes.h"
+
+class TCustomFormDesigner;
+
+// One small handle around the current control; a child of the control's
+// parent. A press on an enabled handle starts sizing.
+class TGrabHandle : public QWidget
+{
+    Q_OBJECT
+public:
+    TGrabHandle(TCustomFormDesigner *designer, TGrabPosition position);
+
+    TGrabPosition Position() const { return m_position; }
+    // The handle's rectangle before clipping (in its parent's coordinates).
+    QRect Rect() const { return m_rect; }
+    bool Locked() const { return m_locked; }
+    bool HandleEnabled() const { return m_enabled; }
+
+    void place(QWidget *parent, const QRect &rect, bool locked, bool visible, bool enabled);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    TCustomFormDesigner *m_designer;
+    TGrabPosition m_position;
+    QRect m_rect;
+    bool m_locked = false;
+    bool m_enabled = true;
+};
+
+// The eight handles of the current control of a single selection.
+class TGrabHandles : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TGrabHandles(TCustomFormDesigner *designer);
+    ~TGrabHandles() override;
+
+    TGrabHandle *Items(TGrabPosition position) const;
+    QWidget *Control() const { return m_control; }
+    bool Visible() const { return m_visible; }
+    TCustomFormDesigner *Designer() const { return m_designer; }
+
+    // Places the handles around control (none: hides them).
+    void Update(QWidget *control, bool mustHide = false);
+    void hideAll();
+    bool IsGrabHandle(const QWidget *widget) const;
+    TGrabPosition FindHandle(const QWidget *widget) const;
+
+    // The unclipped handle rectangle for a control's bounds (parent coordinates).
+    static QRect handleRect(TGrabMode mode, int grabSize, const QRect &bounds, TGrabPosition position);
+
+private:
+    TCustomFormDesigner *m_designer;
+    QPointer<QWidget> m_control;
+    QPointer<TGrabHandle> m_items[9]; // may die with a container they sat on
+    bool m_visible = false;
+};
+
+// Drawn above the design control and everything on it: the drag frames, the
+// rubber band, the placing frame, the alignment lines and the marks of a
+// multiple selection. It takes no mouse input; erasing means repainting.
+class TDesignOverlay : public QWidget
+{
+    Q_OBJECT
+public:
+    TDesignOverlay(TCustomFormDesigner *designer, QWidget *designControl);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void paintDragFrames(class QPainter &p);
+    void paintAlignmentLines(class QPainter &p);
+    void paintMultiSelection(class QPainter &p);
+
+    TCustomFormDesigner *m_designer;
+};
