@@ -107,7 +107,10 @@ bool QtUserDialogs::fileDialog(QWidget *parent, TFileDialog &dialog)
     if (dialog.filterIndex >= 1 && dialog.filterIndex <= filters.size())
         fd.selectNameFilter(filters.at(dialog.filterIndex - 1));
     fd.setDefaultSuffix(dialog.defaultExt);
+    // A remembered file name may stand where a folder is expected: use its folder.
     QString dir = dialog.initialDir;
+    if (!dir.isEmpty() && QFileInfo(dir).isFile())
+        dir = QFileInfo(dir).absolutePath();
     if (dir.isEmpty() && !dialog.fileName.isEmpty())
         dir = QFileInfo(dialog.fileName).absolutePath();
     if (!dir.isEmpty())

@@ -1,0 +1,331 @@
+// The main window's handling of mask windows: tab strip, window list, Window
+// and Help menus, menu enabling, the command line and the tool bars.
+#include <QFile>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "AppPaths.h"
+#include "TestSupport.h"
+#include "Version.h"
+#include "helper_shell.h"
+
+using namespace ShellTest;
+
+class TestMainForm : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void tabsAndWindowListFollowTheMaskWindows();
+    void windowListChecksAndActivatesWindows();
+    void minimiseAllAndArrangeIcons();
+    void commandsNeedAnOpenMask();
+    void onlyTheFirstCommandLineArgumentIsOpened();
+    void aboutBoxShowsProductAndVersion();
+    void paletteButtonsAreExclusive();
+    void mainMenuBarHidesTheMenu();
+
+private:
+    QTemporaryDir m_dir;
+};
+
+void TestMainForm::initTestCase()
+{
+    QVERIFY(m_dir.isValid());
+    AppPaths::setSettingsFileOverride(m_dir.filePath(QStringLiteral("ferolith.ini")));
+}
+
+void TestMainForm::cleanup()
+{
+    flushDeletes();
+}
+
+void TestMainForm::tabsAndWindowListFollowTheMaskWindows()
+{
+    auto form = showMainForm();
+    QTabBar *tabs = form->tabSet();
+    QCOMPARE(tabs->count(), 0);
+
+    for (int i = 0; i < 3; ++i)
+        clickTool(form.get(), "FileNewItem");
+    QList<QMdiSubWindow *> windows = subWindows(form.get());
+    QCOMPARE(windows.size(), 3);
+    const QStringList three(3, QStringLiteral("Unbenannt.dbm"));
+    QCOMPARE(tabTexts(tabs), three);
+    QCOMPARE(actionTexts(form->windowListActions()), three);
+    for (QMdiSubWindow *w : windows) {
+        auto *mask = qobject_cast<TMaske *>(w);
+        QVERIFY(mask);
+        QCOMPARE(mask->Path(), QStringLiteral("Unbenannt.dbm"));
+        QVERIFY(!mask->Modified());
+    }
+    // The newest window is the active one and its tab is current.
+    QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(2));
+    QCOMPARE(tabs->currentIndex(), 2);
+
+    form->mdiArea()->setActiveSubWindow(windows.at(1));
+    QCOMPARE(tabs->currentIndex(), 1);
+
+    QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(0).center());
+    QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(0));
+    QCOMPARE(tabs->currentIndex(), 0);
+
+    // A new caption shows in the tab and in the window list.
+    windows.at(0)->setWindowTitle(QStringLiteral("Kunden.dbm"));
+    QCOMPARE(tabs->tabText(0), QStringLiteral("Kunden.dbm"));
+    QCOMPARE(form->windowListActions().at(0)->text(), QStringLiteral("Kunden.dbm"));
+
+    // File/Close closes the active window; tab and entry go with it at once.
+    QPointer<QMdiSubWindow> first = windows.at(0);
+    clickTool(form.get(), "FileCloseItem");
+    QCOMPARE(tabs->count(), 2);
+    QCOMPARE(form->windowListActions().size(), 2);
+    QVERIFY(!tabTexts(tabs).contains(QStringLiteral("Kunden.dbm")));
+    flushDeletes();
+    QVERIFY(first.isNull());
+
+    // Closing a window that is not the active one is followed as well.
+    windows = subWindows(form.get());
+    QCOMPARE(windows.size(), 2);
+    QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(0).center());
+    QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(0));
+    windows.at(1)->close();
+    QCOMPARE(tabs->count(), 1);
+    QCOMPARE(form->windowListActions().size(), 1);
+    flushDeletes();
+    QCOMPARE(subWindows(form.get()).size(), 1);
+
+    // The remaining tab still belongs to the remaining window.
+    QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(0).center());
+    QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(0));
+}
+
+void TestMainForm::windowListChecksAndActivatesWindows()
+{
+    auto form = showMainForm();
+    for (int i = 0; i < 3; ++i)
+        clickTool(form.get(), "FileNewItem");
+    const QList<QMdiSubWindow *> windows = subWindows(form.get());
+    QCOMPARE(windows.size(), 3);
+    QTabBar *tabs = form->tabSet();
+    QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(0).center());
+
+    QMenu *menu = form->windowMenu();
+    openMenu(form.get(), menu);
+    QVERIFY(menu->isVisible());
+    QList<QAction *> entries = form->windowListActions();
+    QCOMPARE(entries.size(), 3);
+    // The list sits at the end of the menu.
+    QCOMPARE(menu->actions().mid(menu->actions().size() - 3), entries);
+    QVERIFY(entries.at(0)->isChecked());
+    QVERIFY(!entries.at(1)->isChecked());
+    QVERIFY(!entries.at(2)->isChecked());
+
+    clickMenuItem(menu, entries.at(2));
+    QVERIFY(!menu->isVisible());
+    QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(2));
+    QCOMPARE(tabs->currentIndex(), 2);
+
+    // A minimised window chosen from the list comes back.
+    windows.at(1)->showMinimized();
+    QVERIFY(windows.at(1)->isMinimized());
+    QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(0).center());
+    QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(0));
+    openMenu(form.get(), menu);
+    entries = form->windowListActions();
+    QCOMPARE(entries.size(), 3);
+    QVERIFY(entries.at(0)->isChecked());
+    QVERIFY(!entries.at(1)->isChecked());
+    clickMenuItem(menu, entries.at(1));
+    QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(1));
+    QVERIFY(!windows.at(1)->isMinimized());
+    QCOMPARE(tabs->currentIndex(), 1);
+}
+
+void TestMainForm::minimiseAllAndArrangeIcons()
+{
+    auto form = showMainForm();
+    for (int i = 0; i < 3; ++i)
+        clickTool(form.get(), "FileNewItem");
+    const QList<QMdiSubWindow *> windows = subWindows(form.get());
+    QCOMPARE(windows.size(), 3);
+
+    action(form.get(), "WindowMinimizeItem")->trigger();
+    for (QMdiSubWindow *w : windows)
+        QVERIFY(w->isMinimized());
+
+    action(form.get(), "WindowArrangeItem")->trigger();
+    const int bottom = form->mdiArea()->viewport()->height();
+    QList<QRect> icons;
+    for (QMdiSubWindow *w : windows) {
+        QVERIFY(w->isMinimized());
+        QCOMPARE(w->geometry().bottom() + 1, bottom);
+        icons << w->geometry();
+    }
+    // In a row from the left edge, side by side without overlap.
+    QCOMPARE(icons.at(0).left(), 0);
+    QCOMPARE(icons.at(1).left(), icons.at(0).right() + 1);
+    QCOMPARE(icons.at(2).left(), icons.at(1).right() + 1);
+}
+
+void TestMainForm::commandsNeedAnOpenMask()
+{
+    auto form = showMainForm();
+    const char *const maskCommands[] = {"FileCloseItem", "FileSaveItem", "FileSaveAsItem", "WindowCascadeItem",
+                                        "WindowTileItem", "WindowArrangeItem", "WindowMinimizeItem"};
+    auto expectEnabled = [&](bool enabled) {
+        for (const char *name : maskCommands) {
+            QAction *item = action(form.get(), name);
+            QVERIFY2(item, name);
+            QVERIFY2(item->isEnabled() == enabled, name);
+        }
+        QVERIFY(toolButton(form.get(), "FileCloseItem")->isEnabled() == enabled);
+        QVERIFY(toolButton(form.get(), "FileSaveItem")->isEnabled() == enabled);
+        QVERIFY(action(form.get(), "FileNewItem")->isEnabled());
+        QVERIFY(action(form.get(), "FileOpenItem")->isEnabled());
+    };
+    expectEnabled(false);
+
+    // Ctrl+N works although the menu sits in a tool bar.
+    QVERIFY(QTest::qWaitForWindowActive(form.get()));
+    QTest::keyClick(form.get(), Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(subWindows(form.get()).size(), 1);
+    expectEnabled(true);
+
+    clickTool(form.get(), "FileCloseItem");
+    expectEnabled(false);
+    QCOMPARE(form->tabSet()->count(), 0);
+
+    // Close with no mask open does nothing.
+    action(form.get(), "FileCloseItem")->trigger();
+    QCOMPARE(subWindows(form.get()).size(), 0);
+}
+
+void TestMainForm::onlyTheFirstCommandLineArgumentIsOpened()
+{
+    const QString first = m_dir.filePath(QStringLiteral("Kunden.dbm"));
+    const QString second = m_dir.filePath(QStringLiteral("Artikel.dbm"));
+    TMainForm form(QStringList{first, second});
+    QCOMPARE(form.mdiArea()->subWindowList().size(), 0);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+
+    const QList<QMdiSubWindow *> windows = form.mdiArea()->subWindowList();
+    QCOMPARE(windows.size(), 1);
+    auto *mask = qobject_cast<TMaske *>(windows.at(0));
+    QVERIFY(mask);
+    QCOMPARE(mask->windowTitle(), QStringLiteral("Kunden.dbm"));
+    QCOMPARE(mask->Path(), first);
+    QCOMPARE(tabTexts(form.tabSet()), QStringList{QStringLiteral("Kunden.dbm")});
+    // The status bar shows where the active mask lives.
+    auto *status = form.findChild<QLabel *>(QStringLiteral("StatusPath"));
+    QVERIFY(status);
+    QCOMPARE(status->text(), first);
+    QVERIFY(action(&form, "FileSaveItem")->isEnabled());
+
+    // Showing the window again (restored after minimising) opens nothing more.
+    form.hide();
+    form.show();
+    QCOMPARE(form.mdiArea()->subWindowList().size(), 1);
+}
+
+void TestMainForm::aboutBoxShowsProductAndVersion()
+{
+    ScriptedDialogs dialogs;
+    QStringList labels;
+    QPointer<QDialog> shown;
+    QString okText;
+    dialogs.dialogAnswers << [&](QDialog *box) {
+        shown = box;
+        for (const QLabel *label : box->findChildren<QLabel *>())
+            labels << label->text();
+        if (auto *ok = box->findChild<QPushButton *>())
+            okText = ok->text();
+        return int(QDialog::Accepted);
+    };
+    auto form = showMainForm();
+    action(form.get(), "HelpAboutItem")->trigger();
+
+    QCOMPARE(dialogs.dialogTitles, QStringList{QStringLiteral("Programminfo")});
+    QVERIFY(labels.contains(QStringLiteral("Ferolith")));
+    QVERIFY(labels.contains(QStringLiteral("für Quorbex 18.x")));
+    QVERIFY(labels.contains(Version::text()));
+    QCOMPARE(okText, QStringLiteral("&OK"));
+    // The box is made for one showing and freed afterwards.
+    QVERIFY(shown.isNull());
+    QCOMPARE(dialogs.unexpected, 0);
+}
+
+void TestMainForm::paletteButtonsAreExclusive()
+{
+    auto form = showMainForm();
+    QToolBar *palette = form->bar(TMainForm::ElementsBar);
+    QVERIFY(palette);
+    auto button = [palette](const char *name) { return palette->findChild<QToolButton *>(QLatin1String(name)); };
+
+    QToolButton *arrow = button("dxBarBtnDefault");
+    QVERIFY(arrow);
+    QVERIFY(arrow->isChecked());
+
+    // The tags are the control kinds of the mask files.
+    const struct
+    {
+        const char *name;
+        int tag;
+    } kinds[] = {{"dxBarBtnLabel", 1},     {"dxBarBtnEdit", 2},         {"dxBarBtnCombo", 3},
+                 {"dxBarBtnMemo", 4},      {"dxBarBtnCheckbox", 5},     {"dxBarBtnDBGrid", 6},
+                 {"dxBarBtnButton", 7},    {"dxBarBtnBevel", 8},        {"dxBarBtnPreview", 9},
+                 {"dxBarBtnDBLabel", 10},  {"dxBarBtnShape", 11},       {"dxBarBtnDBLockup", 12},
+                 {"dxBarBtnImage", 13},    {"dxBarBtnPageControl", 16}, {"dxBarPanel", 17},
+                 {"dxBarRadioButton", 18}, {"dxBarTreelist", 19},       {"dxBarStringgrid", 20}};
+    for (const auto &kind : kinds) {
+        QToolButton *b = button(kind.name);
+        QVERIFY2(b, kind.name);
+        QVERIFY2(!b->icon().isNull(), kind.name);
+        QTest::mouseClick(b, Qt::LeftButton);
+        QVERIFY2(b->isChecked(), kind.name);
+        QVERIFY(!arrow->isChecked());
+        QCOMPARE(b->defaultAction()->property("Tag").toInt(), kind.tag);
+        int down = 0;
+        for (const QToolButton *other : palette->findChildren<QToolButton *>())
+            down += other->isChecked() ? 1 : 0;
+        QCOMPARE(down, 1);
+    }
+    QCOMPARE(button("dxBarBtnImage")->toolTip(), QStringLiteral("Bild einfügen"));
+
+    // A button that is down stays down when clicked again; the arrow releases it.
+    QToolButton *edit = button("dxBarBtnEdit");
+    QTest::mouseClick(edit, Qt::LeftButton);
+    QTest::mouseClick(edit, Qt::LeftButton);
+    QVERIFY(edit->isChecked());
+    QTest::mouseClick(arrow, Qt::LeftButton);
+    QVERIFY(arrow->isChecked());
+    QVERIFY(!edit->isChecked());
+}
+
+void TestMainForm::mainMenuBarHidesTheMenu()
+{
+    auto form = showMainForm();
+    auto *menuBar = form->findChild<QMenuBar *>(QStringLiteral("MainMenu"));
+    QVERIFY(menuBar);
+    QToolBar *mainMenu = form->bar(TMainForm::MainMenuBar);
+    QCOMPARE(mainMenu->windowTitle(), QStringLiteral("Main Menu"));
+    QVERIFY(menuBar->isVisible());
+
+    mainMenu->toggleViewAction()->trigger();
+    QVERIFY(!menuBar->isVisible());
+    mainMenu->toggleViewAction()->trigger();
+    QVERIFY(menuBar->isVisible());
+
+    // The status bar runs along the bottom edge.
+    QCOMPARE(form->toolBarArea(form->bar(TMainForm::StatusBar)), Qt::BottomToolBarArea);
+}
+
+QTEST_MAIN(TestMainForm)
+#include "test_mainform.moc"

@@ -1,0 +1,286 @@
+// The File menu of the main window: open and save dialogs, the mask header
+// written on save, its backup, and the folders remembered between runs.
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <memory>
+
+#include "AppPaths.h"
+#include "IniFile.h"
+#include "TestSupport.h"
+#include "helper_shell.h"
+
+using namespace ShellTest;
+
+class TestMainFormFiles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void dialogFoldersWithoutSettings();
+    void openedAndSavedFilesSurviveARestart();
+    void openDialogOpensEverySelectedFile();
+    void newMaskIsSavedInTheCurrentFolder();
+    void savingKeepsThePreviousStateAsBackup();
+    void untitledOrPathlessMaskAsksForAName();
+    void saveFailureIsReported();
+
+private:
+    QString path(const QString &name) const { return QDir::toNativeSeparators(m_work->filePath(name)); }
+    QString iniFile() const { return m_dir.filePath(QStringLiteral("ferolith.ini")); }
+    TMaske *activeMask(TMainForm *form) const { return qobject_cast<TMaske *>(form->mdiArea()->activeSubWindow()); }
+
+    QTemporaryDir m_dir;
+    std::unique_ptr<QTemporaryDir> m_work; // a fresh folder for each test
+    QString m_startFolder;
+};
+
+void TestMainFormFiles::initTestCase()
+{
+    QVERIFY(m_dir.isValid());
+    AppPaths::setSettingsFileOverride(iniFile());
+    m_startFolder = QDir::currentPath();
+}
+
+void TestMainFormFiles::init()
+{
+    QFile::remove(iniFile());
+    m_work = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_work->isValid());
+    QDir::setCurrent(m_work->path());
+}
+
+void TestMainFormFiles::cleanup()
+{
+    flushDeletes();
+    QDir::setCurrent(m_startFolder);
+}
+
+void TestMainFormFiles::dialogFoldersWithoutSettings()
+{
+    ScriptedDialogs dialogs;
+    dialogs.fileAnswers << QStringList();
+    auto form = showMainForm();
+    clickTool(form.get(), "FileOpenItem");
+
+    QCOMPARE(dialogs.fileDialogs.size(), 1);
+    const TFileDialog &shown = dialogs.fileDialogs.at(0);
+    QCOMPARE(shown.kind, TFileDialog::Open);
+    QVERIFY(shown.fileName.isEmpty());
+    QCOMPARE(shown.initialDir, AppPaths::baseFolder() + QStringLiteral("Masken") + QDir::separator());
+    QVERIFY(shown.allowMultiSelect);
+    QVERIFY(shown.fileMustExist);
+    QCOMPARE(form->SaveDialog1.initialDir, AppPaths::baseFolder());
+}
+
+void TestMainFormFiles::openedAndSavedFilesSurviveARestart()
+{
+    QVERIFY(QDir(m_work->path()).mkpath(QStringLiteral("neu")));
+    const QString opened = path(QStringLiteral("Kunden.dbm"));
+    const QString saved = path(QStringLiteral("neu/Lager.dbm"));
+    {
+        ScriptedDialogs dialogs;
+        dialogs.fileAnswers << QStringList{opened} << QStringList{saved};
+        auto form = showMainForm();
+        clickTool(form.get(), "FileOpenItem");
+        clickTool(form.get(), "FileSaveAsItem");
+        QCOMPARE(dialogs.fileDialogs.size(), 2);
+        QCOMPARE(dialogs.fileDialogs.at(1).kind, TFileDialog::Save);
+        // The dialog proposes the caption of the mask.
+        QCOMPARE(dialogs.fileDialogs.at(1).fileName, QStringLiteral("Kunden.dbm"));
+        QCOMPARE(form->SaveDialog1.initialDir, path(QStringLiteral("neu")) + QDir::separator());
+        QVERIFY(form->close());
+        QCOMPARE(dialogs.unexpected, 0);
+    }
+
+    TMemIniFile settings;
+    QVERIFY(settings.load(iniFile()));
+    QCOMPARE(settings.readSection(QStringLiteral("PRG")),
+             (QStringList{QStringLiteral("LastSave"), QStringLiteral("LastOpen")}));
+    QCOMPARE(settings.readString(QStringLiteral("PRG"), QStringLiteral("LastOpen"), QString()), opened);
+    QCOMPARE(settings.readString(QStringLiteral("PRG"), QStringLiteral("LastSave"), QString()), saved);
+
+    ScriptedDialogs dialogs;
+    dialogs.fileAnswers << QStringList();
+    auto form = showMainForm();
+    QCOMPARE(form->OpenDialog.fileName, opened);
+    QCOMPARE(form->OpenDialog.initialDir, m_work->path() + QDir::separator());
+    // The save dialog starts where the last save went: the stored name is the
+    // last saved file itself.
+    QCOMPARE(form->SaveDialog1.initialDir, saved);
+    clickTool(form.get(), "FileOpenItem");
+    QCOMPARE(dialogs.fileDialogs.size(), 1);
+    QCOMPARE(dialogs.fileDialogs.at(0).fileName, opened);
+    QCOMPARE(dialogs.fileDialogs.at(0).initialDir, m_work->path() + QDir::separator());
+}
+
+void TestMainFormFiles::openDialogOpensEverySelectedFile()
+{
+    ScriptedDialogs dialogs;
+    const QStringList files{path(QStringLiteral("c.dbm")), path(QStringLiteral("a.dbm")),
+                            path(QStringLiteral("b.dbm"))};
+    dialogs.fileAnswers << files << QStringList();
+    auto form = showMainForm();
+    clickTool(form.get(), "FileOpenItem");
+
+    const QList<QMdiSubWindow *> windows = subWindows(form.get());
+    QCOMPARE(windows.size(), 3);
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(qobject_cast<TMaske *>(windows.at(i))->Path(), files.at(i));
+    QCOMPARE(tabTexts(form->tabSet()),
+             (QStringList{QStringLiteral("c.dbm"), QStringLiteral("a.dbm"), QStringLiteral("b.dbm")}));
+    QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(2));
+
+    // Cancel leaves windows and the remembered file alone.
+    clickTool(form.get(), "FileOpenItem");
+    QCOMPARE(dialogs.fileDialogs.size(), 2);
+    QCOMPARE(subWindows(form.get()).size(), 3);
+    QCOMPARE(form->OpenDialog.fileName, files.at(0));
+    QCOMPARE(dialogs.unexpected, 0);
+}
+
+void TestMainFormFiles::newMaskIsSavedInTheCurrentFolder()
+{
+    ScriptedDialogs dialogs;
+    auto form = showMainForm();
+    clickTool(form.get(), "FileNewItem");
+    TMaske *mask = activeMask(form.get());
+    QVERIFY(mask);
+    mask->setTitel(QStringLiteral("Kundenstamm"));
+    mask->setTabelle(QStringLiteral("KUNDEN"));
+    mask->setTyp(2);
+    mask->setModified(true);
+
+    clickTool(form.get(), "FileSaveItem");
+    QVERIFY(dialogs.fileDialogs.isEmpty());
+    QVERIFY(dialogs.messages.isEmpty());
+    QVERIFY(!mask->Modified());
+    QCOMPARE(mask->windowTitle(), QStringLiteral("Unbenannt.dbm"));
+
+    TMemIniFile written;
+    QVERIFY(written.load(m_work->filePath(QStringLiteral("Unbenannt.dbm"))));
+    QCOMPARE(written.readSections(),
+             (QStringList{QStringLiteral("Datenbank"), QStringLiteral("Style")}));
+    QCOMPARE(written.readString(QStringLiteral("Datenbank"), QStringLiteral("Titel"), QString()),
+             QStringLiteral("Kundenstamm"));
+    QCOMPARE(written.readString(QStringLiteral("Datenbank"), QStringLiteral("Tabelle"), QString()),
+             QStringLiteral("KUNDEN"));
+    QCOMPARE(written.readInteger(QStringLiteral("Datenbank"), QStringLiteral("Typ"), -1), 2);
+    QCOMPARE(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Height"), -1), mask->DesignHeight());
+    QCOMPARE(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Width"), -1), mask->DesignWidth());
+    QVERIFY(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Pixel"), 0) > 0);
+    const QStringList style = written.readSectionValues(QStringLiteral("Style"));
+    QCOMPARE(style, (QStringList{QStringLiteral("BorderStyle=4"), QStringLiteral("ButtonStyle=0"),
+                                 QStringLiteral("ButtonTrans=0"), QStringLiteral("Color=0"),
+                                 QStringLiteral("Shadow=0"), QStringLiteral("Hottrack=0"),
+                                 QStringLiteral("EdgeLeft=1"), QStringLiteral("EdgeRight=1"),
+                                 QStringLiteral("EdgeTop=1"), QStringLiteral("EdgeBottom=1")}));
+    QVERIFY(!QFile::exists(m_work->filePath(QStringLiteral("Unbenannt.dbm_bak"))));
+}
+
+void TestMainFormFiles::savingKeepsThePreviousStateAsBackup()
+{
+    ScriptedDialogs dialogs;
+    auto form = showMainForm();
+    clickTool(form.get(), "FileNewItem");
+    TMaske *mask = activeMask(form.get());
+    QVERIFY(mask);
+    const QString file = m_work->filePath(QStringLiteral("Unbenannt.dbm"));
+    const QString backup = m_work->filePath(QStringLiteral("Unbenannt.dbm_bak"));
+    auto titleIn = [](const QString &fileName) {
+        TMemIniFile ini;
+        ini.load(fileName);
+        return ini.readString(QStringLiteral("Datenbank"), QStringLiteral("Titel"), QStringLiteral("<fehlt>"));
+    };
+
+    const QString titles[] = {QStringLiteral("Erster Stand"), QStringLiteral("Zweiter Stand"),
+                              QStringLiteral("Dritter Stand")};
+    for (const QString &title : titles) {
+        mask->setTitel(title);
+        clickTool(form.get(), "FileSaveItem");
+    }
+    QCOMPARE(titleIn(file), titles[2]);
+    // One backup: the state before the last save.
+    QCOMPARE(titleIn(backup), titles[1]);
+    QCOMPARE(QDir(m_work->path()).entryList({QStringLiteral("Unbenannt*")}, QDir::Files).size(), 2);
+    QVERIFY(dialogs.fileDialogs.isEmpty());
+}
+
+void TestMainFormFiles::untitledOrPathlessMaskAsksForAName()
+{
+    ScriptedDialogs dialogs;
+    auto form = showMainForm();
+    clickTool(form.get(), "FileNewItem");
+    TMaske *mask = activeMask(form.get());
+    QVERIFY(mask);
+
+    // The English placeholder caption counts as "never saved".
+    mask->setWindowTitle(QStringLiteral("Untitled.dbm"));
+    const QString chosen = path(QStringLiteral("Bestellung.dbm"));
+    dialogs.fileAnswers << QStringList{chosen};
+    clickTool(form.get(), "FileSaveItem");
+    QCOMPARE(dialogs.fileDialogs.size(), 1);
+    QCOMPARE(dialogs.fileDialogs.at(0).fileName, QStringLiteral("Untitled.dbm"));
+    QCOMPARE(mask->windowTitle(), QStringLiteral("Bestellung.dbm"));
+    QCOMPARE(mask->Path(), chosen);
+    QCOMPARE(form->tabSet()->tabText(0), QStringLiteral("Bestellung.dbm"));
+    QVERIFY(QFile::exists(chosen));
+    QVERIFY(!QFile::exists(m_work->filePath(QStringLiteral("Untitled.dbm"))));
+
+    // Saving again goes straight to the chosen file.
+    clickTool(form.get(), "FileSaveItem");
+    QCOMPARE(dialogs.fileDialogs.size(), 1);
+    QVERIFY(QFile::exists(path(QStringLiteral("Bestellung.dbm_bak"))));
+
+    // A mask without a path asks too; cancelling changes nothing.
+    clickTool(form.get(), "FileNewItem");
+    TMaske *pathless = activeMask(form.get());
+    QVERIFY(pathless && pathless != mask);
+    pathless->setPath(QString());
+    pathless->setModified(true);
+    dialogs.fileAnswers << QStringList();
+    clickTool(form.get(), "FileSaveItem");
+    QCOMPARE(dialogs.fileDialogs.size(), 2);
+    QCOMPARE(dialogs.fileDialogs.at(1).fileName, QStringLiteral("Unbenannt.dbm"));
+    QCOMPARE(pathless->windowTitle(), QStringLiteral("Unbenannt.dbm"));
+    QVERIFY(pathless->Path().isEmpty());
+    QVERIFY(pathless->Modified());
+    QVERIFY(!QFile::exists(m_work->filePath(QStringLiteral("Unbenannt.dbm"))));
+
+    // Save As cancelled leaves caption, path and files as they were.
+    dialogs.fileAnswers << QStringList();
+    form->mdiArea()->setActiveSubWindow(mask);
+    clickTool(form.get(), "FileSaveAsItem");
+    QCOMPARE(dialogs.fileDialogs.size(), 3);
+    QCOMPARE(mask->windowTitle(), QStringLiteral("Bestellung.dbm"));
+    QCOMPARE(mask->Path(), chosen);
+    QCOMPARE(QDir(m_work->path()).entryList(QDir::Files).size(), 2);
+    QCOMPARE(dialogs.unexpected, 0);
+}
+
+void TestMainFormFiles::saveFailureIsReported()
+{
+    ScriptedDialogs dialogs;
+    dialogs.messageAnswers << mrOk;
+    auto form = showMainForm();
+    clickTool(form.get(), "FileNewItem");
+    TMaske *mask = activeMask(form.get());
+    mask->setModified(true);
+    const QString target = path(QStringLiteral("fehlt/Maske.dbm"));
+    dialogs.fileAnswers << QStringList{target};
+    clickTool(form.get(), "FileSaveAsItem");
+
+    QCOMPARE(dialogs.messages.size(), 1);
+    QCOMPARE(dialogs.messages.at(0).type, mtError);
+    QVERIFY(dialogs.messages.at(0).text.contains(target));
+    QVERIFY(mask->Modified());
+    QVERIFY(!QFile::exists(target));
+}
+
+QTEST_MAIN(TestMainFormFiles)
+#include "test_mainform_files.moc"
