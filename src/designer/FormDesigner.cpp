@@ -179,6 +179,7 @@ void TCustomFormDesigner::attach()
     m_overlay = new TDesignOverlay(this, dc);
     m_overlay->show();
     m_overlay->raise();
+    updateContainers();
     UpdateGrabs();
 
     if (m_alignmentPalette & apAutoShow)
@@ -191,6 +192,7 @@ void TCustomFormDesigner::detach()
 {
     CancelPlacing();
     LeaveMouseAction();
+    removeContainers();
     activeList().removeAll(this);
     removeHook();
     QWidget *dc = m_attached;
@@ -336,15 +338,18 @@ void TCustomFormDesigner::AddControl(QWidget *control)
                 OnDeleteControl(this, c);
     }
     m_controls.append(control);
+    disconnect(control, &QObject::destroyed, this, nullptr);
     connect(control, &QObject::destroyed, this, [this](QObject *gone) {
         // A selected control went away: it leaves the selection.
         QWidget *old = currentControl();
-        const bool wasCurrent = !m_controls.isEmpty() && m_controls.first() == nullptr;
-        m_controls.removeIf([](const QPointer<QWidget> &c) { return c.isNull(); });
+        const auto dead = [gone](const QPointer<QWidget> &c) {
+            return c.isNull() || static_cast<QObject *>(c.data()) == gone;
+        };
+        m_controls.removeIf(dead);
         if (OnDeleteControl)
             OnDeleteControl(this, static_cast<QWidget *>(gone));
-        selectionChanged(wasCurrent ? nullptr : old);
-    }, Qt::UniqueConnection);
+        selectionChanged(old); // compared by address only: the old one may be dying
+    });
     if (OnAddControl)
         OnAddControl(this, control);
     selectionChanged(old);

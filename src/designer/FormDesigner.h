@@ -245,6 +245,8 @@ public:
 
     // ---- operations ----
     void Update();
+    // Re-places the handles of the current control and repaints the marks.
+    void UpdateGrabs();
     int ControlIndex(QWidget *control) const;
     void AddControl(QWidget *control);
     void DeleteControl(QWidget *control);
@@ -361,7 +363,6 @@ private:
     void setGrabColor(TColor &slot, TColor value);
     void setGrabGlyph(TGrabType type, const QPixmap &glyph);
     void updateGrabBitmaps();
-    void UpdateGrabs();
     QPixmap grabBitmap(TGrabType type) const { return m_grabBitmap[type]; }
 
     // FormDesignerDrag.cpp: mouse moving, sizing, rubber band, placing
@@ -394,6 +395,22 @@ private:
 
     // FormDesignerClipboard.cpp: streaming and clipboard
     QWidget *pasteTarget() const;
+
+    // ---- commands, lists and clipboard ----
+    // ComponentContainer.cpp: one container per non-visual component of the
+    // form while active and ShowNonVisual; attach() calls updateContainers()
+    // once the design control is set up, detach() calls removeContainers()
+    // while m_attached is still set.
+    void updateContainers();
+    void removeContainers();
+    QList<QPointer<TComponentContainer>> m_containers;
+    // FormDesignerCommands.cpp: moves and sizes done, reported together.
+    void reportMoveSize(const QList<QWidget *> &controls, const QList<QRect> &before);
+    // FormDesignerClipboard.cpp
+    void readError(const QString &message, bool handled, bool raise);
+    void readLayout(const QByteArray &bytes, const QString &what);
+    QList<QWidget *> layoutControls() const;
+    // ---- end of commands, lists and clipboard ----
 
     // properties
     bool m_clearBeforeLoad = true;
@@ -480,6 +497,23 @@ private:
     QPoint m_lastClickPos;    // for double clicks: where the preceding click was
     QPointer<QWidget> m_lastClickControl;
     bool m_dragStarted = false;
+
+    // drag state (FormDesignerDrag.cpp, FormDesignerGrid.cpp, DesignOverlay.cpp)
+    QList<QPointer<QWidget>> m_dragControls; // the moved or sized controls, in step with m_dragRects
+    QList<QRect> m_dragOrigins;              // their bounds when the drag started
+    QPointer<QWidget> m_selectParent;        // the container whose children the rubber band selects
+    QPointer<QWidget> m_backgroundWidget;    // whose background applyDesignBackground changed
+    bool m_savedOwnPalette = false;          // it had a palette of its own before
+    QPoint designOrigin(const QWidget *widget) const;
+    QPoint messageDesignPos(const TDesignMessage &msg) const;
+    void sizeLimits(QWidget *control, QPoint &minSize, QPoint &maxSize) const;
+    QRect limitedRect(QWidget *control, const QRect &r, const QRect &old, TGrabPosition handle,
+                      bool keepInside) const;
+    void dragTo(QPoint designPos, Qt::KeyboardModifiers shift);
+    void finishDrag();
+    void finishSelecting(Qt::KeyboardModifiers shift);
+    void finishPlacing(Qt::KeyboardModifiers shift);
+    void resetMouseAction();
 };
 
 // The component that forms carry: publishes everything above.

@@ -199,8 +199,11 @@ bool TCustomFormDesigner::dispatchMessage(TDesignMessage &msg)
     // A protected control works as at run time.
     if (isMouse && m_mouseAction == maNone && !qobject_cast<TGrabHandle *>(msg.hwnd)) {
         QWidget *owner = FindWinControl(msg.hwnd);
-        if (owner && IsProtected(owner))
+        if (owner && IsProtected(owner)) {
+            if (msg.message == WM_RBUTTONDOWN)
+                m_menuControl = nullptr;
             return false;
+        }
     }
     switch (msg.message) {
     case WM_MOVE:

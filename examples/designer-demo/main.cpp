@@ -1,0 +1,21 @@
+// designer-demo [--screenshot FILE.png]: the form designer engine on a plain form.
+#include <QApplication>
+#include <QTimer>
+
+#include "DemoWindow.h"
+
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    DemoWindow window;
+    window.resize(1000, 760);
+    const QStringList args = QApplication::arguments();
+    const int shot = int(args.indexOf(QStringLiteral("--screenshot")));
+    window.show();
+    if (shot > 0 && shot + 1 < args.size()) {
+        QApplication::processEvents();
+        const QString file = args.at(shot + 1);
+        return window.grab().save(file) ? 0 : 1;
+    }
+    return app.exec();
+}

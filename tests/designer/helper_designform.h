@@ -1,0 +1,43 @@
+#pragma once
+
+// A form with a design surface and a few controls, designed by an engine:
+// the fixture of the designer tests.
+#include <QWidget>
+
+#include "Components.h"
+#include "Containers.h"
+#include "FormDesigner.h"
+#include "MyBtn.h"
+
+struct DesignForm
+{
+    QWidget form;
+    QWidget *surface = nullptr;
+    TFormDesigner *designer = nullptr;
+
+    DesignForm()
+    {
+        form.resize(700, 500);
+        surface = new QWidget(&form);
+        surface->setObjectName(QStringLiteral("Surface"));
+        surface->setGeometry(0, 0, 600, 400);
+        designer = new TFormDesigner(&form);
+        designer->setDesignControl(surface);
+    }
+
+    template <class T>
+    T *add(QWidget *parent, const QRect &bounds)
+    {
+        auto *c = new T(parent ? parent : surface);
+        Components::setOwner(c, &form);
+        AutoName(c, &form);
+        c->setBounds(bounds.x(), bounds.y(), bounds.width(), bounds.height());
+        return c;
+    }
+
+    void show()
+    {
+        form.show();
+        form.activateWindow();
+    }
+};

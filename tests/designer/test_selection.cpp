@@ -1,0 +1,358 @@
+// The engine's core as a user meets it: clicking, Shift+clicking, handles,
+// keys, the right button, double clicks, and the message record.
+#include <QMenu>
+#include <QtTest>
+
+#include "DesignerWidgets.h"
+#include "Edits.h"
+#include "helper_designform.h"
+
+class TestSelection : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void clickShiftClickAndHandles();
+    void handlesSitWhereTheGrabModeSays();
+    void messagesCanBeSwallowedAndBothProcessorsWork();
+    void keysSelectAndReachTheHandlers();
+    void rightButtonAndDoubleClick();
+    void designingStateFollowsTheEngine();
+};
+
+namespace {
+QList<TGrabHandle *> visibleHandles(QWidget *root)
+{
+    QList<TGrabHandle *> out;
+    for (TGrabHandle *h : root->findChildren<TGrabHandle *>())
+        if (h->isVisible())
+            out << h;
+    return out;
+}
+
+TGrabHandle *handleAt(QWidget *root, TGrabPosition position)
+{
+    for (TGrabHandle *h : root->findChildren<TGrabHandle *>())
+        if (h->Position() == position)
+            return h;
+    return nullptr;
+}
+
+void click(QWidget *w, Qt::KeyboardModifiers mods = {}, QPoint pos = QPoint(3, 3))
+{
+    QTest::mouseClick(w, Qt::LeftButton, mods, pos);
+}
+} // namespace
+
+void TestSelection::clickShiftClickAndHandles()
+{
+    DesignForm f;
+    auto *panel = f.add<TPanel>(nullptr, {10, 10, 200, 150});
+    auto *inner = f.add<TMaskBtn>(panel, {20, 20, 80, 25});
+    auto *button = f.add<TMaskBtn>(nullptr, {300, 20, 80, 25});
+    f.designer->setActive(true);
+    f.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&f.form));
+
+    QList<QWidget *> selected;
+    int selectionChanges = 0;
+    f.designer->OnSelectControl = [&](QObject *, QWidget *c) { selected << c; };
+    f.designer->OnSelectionChange = [&](QObject *) { ++selectionChanges; };
+
+    click(button);
+    QCOMPARE(f.designer->ControlCount(), 1);
+    QCOMPARE(f.designer->Controls(0), static_cast<QWidget *>(button));
+    QCOMPARE(selected, QList<QWidget *>{button});
+    QCOMPARE(visibleHandles(&f.form).size(), 8);
+    QCOMPARE(handleAt(&f.form, gpLeftTop)->parentWidget(), f.surface);
+
+    // Shift+click adds: two selected, no handle windows.
+    click(panel, Qt::ShiftModifier);
+    QCOMPARE(f.designer->ControlCount(), 2);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(button));
+    QVERIFY(visibleHandles(&f.form).isEmpty());
+
+    // Shift+click on a selected control takes it out; handles come back.
+    click(button, Qt::ShiftModifier);
+    QCOMPARE(f.designer->ControlCount(), 1);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(panel));
+    QCOMPARE(visibleHandles(&f.form).size(), 8);
+    QCOMPARE(handleAt(&f.form, gpRightBottom)->parentWidget(), f.surface);
+
+    // A click on a control inside the panel selects the deepest control.
+    click(inner);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(inner));
+    QCOMPARE(handleAt(&f.form, gpLeftTop)->parentWidget(), static_cast<QWidget *>(panel));
+
+    // A click on a selected control of a group keeps the group and makes it current.
+    click(panel, Qt::ShiftModifier);
+    click(inner);
+    QCOMPARE(f.designer->ControlCount(), 2);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(inner));
+    QCOMPARE(f.designer->ControlIndex(panel), 1);
+
+    // Without multiple selection Shift+click replaces.
+    f.designer->setMultiSelect(false);
+    QCOMPARE(f.designer->ControlCount(), 1);
+    click(button, Qt::ShiftModifier);
+    QCOMPARE(f.designer->ControlCount(), 1);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(button));
+    f.designer->setMultiSelect(true);
+
+    // A refused control is not selected.
+    f.designer->OnValidateSelection = [&](QObject *, QWidget *c, bool &valid) { valid = c != panel; };
+    click(panel);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(button));
+    f.designer->OnValidateSelection = nullptr;
+
+    QVERIFY(selectionChanges > 0);
+    try {
+        f.designer->Controls(f.designer->ControlCount());
+        QFAIL("no exception");
+    } catch (const EFormDesigner &e) {
+        QCOMPARE(e.message(), QStringLiteral("Index of Controls array is out or range."));
+    }
+
+    // A selected control that is deleted leaves the selection.
+    QList<QObject *> deleted;
+    f.designer->OnDeleteControl = [&](QObject *, QWidget *c) { deleted << c; };
+    delete button;
+    QCOMPARE(f.designer->ControlCount(), 0);
+    QCOMPARE(deleted.size(), 1);
+    QCOMPARE(selected.last(), nullptr);
+}
+
+void TestSelection::handlesSitWhereTheGrabModeSays()
+{
+    const QRect bounds(20, 30, 100, 50); // right edge 120, bottom 80
+    QCOMPARE(TGrabHandles::handleRect(gmMiddle, 5, bounds, gpLeftTop), QRect(18, 28, 5, 5));
+    QCOMPARE(TGrabHandles::handleRect(gmMiddle, 5, bounds, gpMiddleTop), QRect(67, 28, 5, 5));
+    QCOMPARE(TGrabHandles::handleRect(gmMiddle, 5, bounds, gpRightBottom), QRect(117, 77, 5, 5));
+    QCOMPARE(TGrabHandles::handleRect(gmInside, 5, bounds, gpRightMiddle), QRect(114, 52, 5, 5));
+    QCOMPARE(TGrabHandles::handleRect(gmOutside, 5, bounds, gpLeftBottom), QRect(15, 79, 5, 5));
+    QCOMPARE(TGrabHandles::handleRect(gmOutside, 5, bounds, gpRightTop), QRect(119, 25, 5, 5));
+    // Division rounds toward zero, also below zero.
+    QCOMPARE(TGrabHandles::handleRect(gmMiddle, 5, QRect(-10, -10, 2, 2), gpMiddleTop).topLeft(), QPoint(-11, -12));
+
+    DesignForm f;
+    auto *edge = f.add<TPanel>(nullptr, {0, 0, 40, 40});
+    f.designer->setGrabMode(gmOutside);
+    TGrabPositions hidden = 0;
+    f.designer->OnCustomizeGrabs = [&](QObject *, TGrabPositions &visible, TGrabPositions &enabled) {
+        visible &= ~hidden;
+        enabled &= ~grabBit(gpLeftMiddle);
+    };
+    f.designer->setActive(true);
+    f.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&f.form));
+    f.designer->AddControl(edge);
+    // Outside the parent's client area: clipped away entirely.
+    TGrabHandle *leftTop = handleAt(&f.form, gpLeftTop);
+    QCOMPARE(leftTop->Rect(), QRect(-5, -5, 5, 5));
+    QVERIFY(leftTop->geometry().isEmpty());
+    QVERIFY(!leftTop->isVisible());
+    QCOMPARE(handleAt(&f.form, gpRightBottom)->geometry(), QRect(39, 39, 5, 5));
+    QVERIFY(!handleAt(&f.form, gpLeftMiddle)->HandleEnabled());
+
+    hidden = grabBit(gpRightBottom);
+    f.designer->UpdateGrabs();
+    QVERIFY(!handleAt(&f.form, gpRightBottom)->isVisible());
+
+    // A locked control shows the locked look; its handles do not size it.
+    f.designer->setLockedGrabFill(Colors::clRed);
+    f.designer->setLockedControls({edge->objectName()});
+    QVERIFY(handleAt(&f.form, gpRightMiddle)->Locked());
+    const QImage look = handleAt(&f.form, gpRightMiddle)->grab().toImage();
+    QCOMPARE(look.pixel(2, 2), qRgb(255, 0, 0));
+}
+
+void TestSelection::messagesCanBeSwallowedAndBothProcessorsWork()
+{
+    for (TMessageProcessor processor : {mpEvent, mpHook}) {
+        DesignForm f;
+        auto *button = f.add<TMaskBtn>(nullptr, {30, 30, 80, 25});
+        f.designer->setMessageProcessor(processor);
+        f.designer->setActive(true);
+        QCOMPARE(TCustomFormDesigner::activeDesigners().count(f.designer), 1);
+        f.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&f.form));
+
+        try {
+            f.designer->setMessageProcessor(processor == mpEvent ? mpHook : mpEvent);
+            QFAIL("no exception");
+        } catch (const EFormDesigner &e) {
+            QCOMPARE(e.message(), QStringLiteral("Cannot change message processor when TFormDesigner is active"));
+        }
+
+        // A handler that swallows the button-down keeps the engine out of it.
+        QList<unsigned> seen;
+        f.designer->OnMessage = [&](QObject *, TDesignMessage &msg) {
+            seen << msg.message;
+            if (msg.message == DesignMessages::WM_LBUTTONDOWN && msg.hwnd == button)
+                msg.message = 0;
+        };
+        click(button);
+        QVERIFY(seen.contains(DesignMessages::WM_LBUTTONDOWN));
+        QVERIFY(seen.contains(DesignMessages::WM_LBUTTONUP));
+        QCOMPARE(f.designer->ControlCount(), 0);
+
+        // Left alone, the same click selects, and the button never sees it.
+        f.designer->OnMessage = nullptr;
+        QSignalSpy clicked(button, &QPushButton::clicked);
+        click(button);
+        QCOMPARE(f.designer->ControlCount(), 1);
+        QCOMPARE(clicked.count(), 0);
+
+        f.designer->setActive(false);
+        QCOMPARE(TCustomFormDesigner::activeDesigners().count(f.designer), 0);
+        click(button);
+        QCOMPARE(clicked.count(), 1);
+    }
+
+    // Owner and design control are checked when attaching.
+    QObject notAForm;
+    TFormDesigner orphan(&notAForm);
+    try {
+        orphan.setActive(true);
+        QFAIL("no exception");
+    } catch (const EFormDesigner &e) {
+        QCOMPARE(e.message(), QStringLiteral("Owner of TFormDesigner must be TCustomForm descendant."));
+    }
+    QVERIFY(!orphan.Active());
+}
+
+void TestSelection::keysSelectAndReachTheHandlers()
+{
+    DesignForm f;
+    auto *panel = f.add<TPanel>(nullptr, {10, 10, 200, 150});
+    auto *inner = f.add<TMaskBtn>(panel, {20, 20, 80, 25});
+    auto *first = f.add<TMaskBtn>(nullptr, {300, 20, 80, 25});
+    f.designer->setActive(true);
+    f.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&f.form));
+
+    // The modifier keys themselves reach the handler too; they are not counted here.
+    QList<int> keys;
+    f.designer->OnKeyDown = [&](QObject *, int &key, Qt::KeyboardModifiers) {
+        if (key != Qt::Key_Shift && key != Qt::Key_Control)
+            keys << key;
+        if (key == Qt::Key_F2)
+            key = 0;
+    };
+    click(inner);
+    QTest::keyClick(f.surface, Qt::Key_Delete);
+    QCOMPARE(keys, QList<int>{Qt::Key_Delete});
+    QTest::keyClick(f.surface, Qt::Key_Insert, Qt::ShiftModifier);
+    QCOMPARE(keys.last(), int(Qt::Key_Insert));
+
+    // Esc goes one level up.
+    QTest::keyClick(f.surface, Qt::Key_Escape);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(panel));
+    QVERIFY(keys.size() == 2); // Esc is the engine's own
+
+    // Tab walks the tab order: the panel, its button, then the other button.
+    QTest::keyClick(f.surface, Qt::Key_Tab);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(inner));
+    QTest::keyClick(f.surface, Qt::Key_Tab);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(first));
+    QTest::keyClick(f.surface, Qt::Key_Tab, Qt::ShiftModifier);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(inner));
+
+    // Without KeySelect an unmodified key passes untouched, no event.
+    f.designer->setKeySelect(false);
+    keys.clear();
+    QTest::keyClick(f.surface, Qt::Key_Delete);
+    QTest::keyClick(f.surface, Qt::Key_Tab);
+    QVERIFY(keys.isEmpty());
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(inner));
+    // Modified keys still need only KeyMove.
+    QTest::keyClick(f.surface, Qt::Key_Delete, Qt::ShiftModifier);
+    QCOMPARE(keys, QList<int>{Qt::Key_Delete});
+    f.designer->setKeyMove(false);
+    QTest::keyClick(f.surface, Qt::Key_Delete, Qt::ShiftModifier);
+    QCOMPARE(keys.size(), 1);
+}
+
+void TestSelection::rightButtonAndDoubleClick()
+{
+    DesignForm f;
+    auto *a = f.add<TMaskBtn>(nullptr, {30, 30, 80, 25});
+    auto *b = f.add<TMaskBtn>(nullptr, {130, 30, 80, 25});
+    auto *c = f.add<TMaskBtn>(nullptr, {230, 30, 80, 25});
+    QMenu menu;
+    menu.addAction(QStringLiteral("Eins"));
+    f.designer->setPopupMenu(&menu);
+    f.designer->OnEditBehaviour = [&](QObject *, QObject *component, TEditBehaviour &behaviour) {
+        if (component == c)
+            behaviour = ebProtected;
+    };
+    f.designer->setActive(true);
+    f.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&f.form));
+
+    // Right click on an unselected control selects it before the menu shows.
+    QTest::mouseClick(a, Qt::RightButton, {}, QPoint(3, 3));
+    QCOMPARE(f.designer->MenuControl(), static_cast<QWidget *>(a));
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(a));
+    QTRY_VERIFY(menu.isVisible());
+    menu.hide();
+
+    // Inside a multiple selection the selection stays.
+    click(b, Qt::ShiftModifier);
+    QTest::mouseClick(b, Qt::RightButton, {}, QPoint(3, 3));
+    QCOMPARE(f.designer->ControlCount(), 2);
+    QTRY_VERIFY(menu.isVisible());
+    menu.hide();
+
+    // OnContextPopup can keep the menu away.
+    f.designer->OnContextPopup = [](QObject *, bool &handled) { handled = true; };
+    QTest::mouseClick(a, Qt::RightButton, {}, QPoint(3, 3));
+    QCoreApplication::processEvents();
+    QVERIFY(!menu.isVisible());
+    f.designer->OnContextPopup = nullptr;
+
+    // A protected control clears the menu control, works as at run time.
+    QTest::mouseClick(c, Qt::RightButton, {}, QPoint(3, 3));
+    QCOMPARE(f.designer->MenuControl(), nullptr);
+    QCoreApplication::processEvents();
+    QVERIFY(!menu.isVisible());
+    QSignalSpy clicked(c, &QPushButton::clicked);
+    click(c);
+    QCOMPARE(clicked.count(), 1);
+
+    // A double click at the place of the click before it.
+    QList<QWidget *> doubled;
+    f.designer->OnControlDblClick = [&](QObject *, QWidget *w) { doubled << w; };
+    click(a);
+    QTest::mouseDClick(a, Qt::LeftButton, {}, QPoint(3, 3));
+    QCOMPARE(doubled, QList<QWidget *>{a});
+    QTest::mouseDClick(c, Qt::LeftButton, {}, QPoint(3, 3));
+    QCOMPARE(doubled.size(), 1);
+}
+
+void TestSelection::designingStateFollowsTheEngine()
+{
+    DesignForm f;
+    auto *edit = f.add<TcxTextEdit>(nullptr, {10, 10, 120, 21});
+    QVERIFY(!edit->isDesigning());
+    f.designer->setActive(true);
+    QVERIFY(edit->isDesigning());
+    f.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&f.form));
+    // A control that arrives while designing is designed too.
+    auto *later = f.add<TcxTextEdit>(nullptr, {10, 50, 120, 21});
+    later->show();
+    QCoreApplication::processEvents();
+    QVERIFY(later->isDesigning());
+    click(later);
+    QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(later));
+    QVERIFY(!later->hasFocus());
+
+    f.designer->setActive(false);
+    QVERIFY(!edit->isDesigning());
+    QVERIFY(!later->isDesigning());
+    QVERIFY(f.form.findChildren<TDesignOverlay *>().isEmpty());
+}
+
+QTEST_MAIN(TestSelection)
+#include "test_selection.moc"
