@@ -122,6 +122,8 @@ void DemoWindow::buildForm()
     Components::setOwner(grid, form);
     AutoName(grid, form);
     TControl::from(grid)->setBounds(16, 460, 752, 150);
+    if (const TPropInfo *columns = TControl::from(grid)->classInfo().property(QStringLiteral("Columns")))
+        columns->write(grid, QStringList{"Number=80", "Date=100", "Article=260", "Quantity=80", "Price=100"});
     grid->show();
 }
 

@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "DemoWindow.h"
+#include "FormDesigner.h"
 
 int main(int argc, char *argv[])
 {
@@ -13,6 +14,9 @@ int main(int argc, char *argv[])
     const int shot = int(args.indexOf(QStringLiteral("--screenshot")));
     window.show();
     if (shot > 0 && shot + 1 < args.size()) {
+        // Show the engine at work: one control selected with its handles.
+        if (QWidget *edit = window.findChild<QWidget *>(QStringLiteral("cxTextEdit2")))
+            window.designer()->AddControl(edit);
         QApplication::processEvents();
         const QString file = args.at(shot + 1);
         return window.grab().save(file) ? 0 : 1;

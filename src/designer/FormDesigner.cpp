@@ -172,8 +172,6 @@ void TCustomFormDesigner::attach()
 
     m_savedFocusPolicy = dc->focusPolicy();
     dc->setFocusPolicy(Qt::StrongFocus);
-    m_savedPalette = dc->palette();
-    m_savedAutoFill = dc->autoFillBackground();
     updateGridBitmap();
     applyDesignBackground();
     m_overlay = new TDesignOverlay(this, dc);
@@ -219,7 +217,7 @@ void TCustomFormDesigner::detach()
 
 void TCustomFormDesigner::watchWidget(QWidget *widget)
 {
-    if (!widget || widget == m_overlay)
+    if (!widget || widget == m_overlay || widget == m_underlay)
         return;
     if (m_messageProcessor == mpEvent) {
         bool known = false;

@@ -247,6 +247,8 @@ public:
     void Update();
     // Re-places the handles of the current control and repaints the marks.
     void UpdateGrabs();
+    // The grid bitmap as last built (empty when the step is wider than the screen).
+    QPixmap gridBitmap() const { return m_gridBitmap; }
     int ControlIndex(QWidget *control) const;
     void AddControl(QWidget *control);
     void DeleteControl(QWidget *control);
@@ -463,8 +465,6 @@ private:
     TDesignOverlay *m_overlay = nullptr;
     QPixmap m_grabBitmap[3];
     QPixmap m_gridBitmap;
-    QPalette m_savedPalette;
-    bool m_savedAutoFill = false;
     Qt::FocusPolicy m_savedFocusPolicy = Qt::NoFocus;
     QPointer<QWidget> m_palette; // the TfrmAlignmentPalette, once made
     QPointer<QLabel> m_hint;
@@ -502,8 +502,7 @@ private:
     QList<QPointer<QWidget>> m_dragControls; // the moved or sized controls, in step with m_dragRects
     QList<QRect> m_dragOrigins;              // their bounds when the drag started
     QPointer<QWidget> m_selectParent;        // the container whose children the rubber band selects
-    QPointer<QWidget> m_backgroundWidget;    // whose background applyDesignBackground changed
-    bool m_savedOwnPalette = false;          // it had a palette of its own before
+    QPointer<QWidget> m_underlay;            // paints the grid under the controls
     QPoint designOrigin(const QWidget *widget) const;
     QPoint messageDesignPos(const TDesignMessage &msg) const;
     void sizeLimits(QWidget *control, QPoint &minSize, QPoint &maxSize) const;

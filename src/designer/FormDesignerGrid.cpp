@@ -2,41 +2,72 @@
 // the design control's background while designing.
 #include <QGuiApplication>
 #include <QImage>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScreen>
 
 #include "FormDesigner.h"
 
 namespace {
-// The palette the design control had before the engine touched it.
-QPalette originalPalette(const QWidget *designControl, bool attached, const QPalette &saved)
-{
-    if (attached)
-        return saved;
-    return designControl ? designControl->palette() : QPalette();
-}
-
-QColor fillColor(TColor designerColor, const QWidget *designControl, const QPalette &palette)
+QColor fillColor(TColor designerColor, const QWidget *designControl)
 {
     if (!designerColor.isNone())
-        return designerColor.toQColor(palette);
-    return designControl ? palette.color(QPalette::Window) : Colors::clBtnFace.toQColor(palette);
+        return designerColor.toQColor(designControl ? designControl->palette() : QPalette());
+    return designControl ? designControl->palette().color(QPalette::Window) : Colors::clBtnFace.toQColor();
 }
 
-QColor dotColor(TColor gridColor, const QWidget *designControl, const QPalette &palette)
+QColor dotColor(TColor gridColor, const QWidget *designControl)
 {
     if (!gridColor.isNone())
-        return gridColor.toQColor(palette);
-    return designControl ? palette.color(QPalette::WindowText) : QColor(Qt::black);
+        return gridColor.toQColor(designControl ? designControl->palette() : QPalette());
+    return designControl ? designControl->palette().color(QPalette::WindowText) : QColor(Qt::black);
 }
+
+// Lies under every control of the design control and paints its background
+// while designing. Painting the grid here rather than through the design
+// control's palette keeps the grid out of the palettes the controls inherit.
+class TDesignUnderlay : public QWidget
+{
+public:
+    TDesignUnderlay(TCustomFormDesigner *designer, QWidget *designControl)
+        : QWidget(designControl), m_designer(designer)
+    {
+        setObjectName(QStringLiteral("_designUnderlay"));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        setGeometry(designControl->rect());
+        designControl->installEventFilter(this);
+        lower();
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == parentWidget() && event->type() == QEvent::Resize)
+            setGeometry(parentWidget()->rect());
+        return false;
+    }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QPainter p(this);
+        const QPixmap grid = m_designer->gridBitmap();
+        if (m_designer->DisplayGrid() && !grid.isNull())
+            p.fillRect(event->rect(), QBrush(grid));
+        else
+            p.fillRect(event->rect(), fillColor(m_designer->DesignerColor(), parentWidget()));
+    }
+
+private:
+    TCustomFormDesigner *m_designer;
+};
 } // namespace
 
 void TCustomFormDesigner::updateGridBitmap()
 {
     const QWidget *dc = m_attached ? m_attached.data() : designControlOrForm();
-    const QPalette palette = originalPalette(dc, !m_attached.isNull(), m_savedPalette);
-    const QColor fill = fillColor(m_designerColor, dc, palette);
-    const QColor dot = dotColor(m_gridColor, dc, palette);
-
+    const QColor fill = fillColor(m_designerColor, dc);
+    const QColor dot = dotColor(m_gridColor, dc);
     const QScreen *screen = QGuiApplication::primaryScreen();
     const QSize screenSize = screen ? screen->geometry().size() : QSize();
     const int step = std::max(1, m_gridStep);
@@ -64,38 +95,17 @@ void TCustomFormDesigner::applyDesignBackground()
     QWidget *dc = m_attached;
     if (!dc)
         return;
-    if (m_backgroundWidget != dc) {
-        // First call for this design control: the core saved its palette and
-        // auto-fill; remember whether that palette was its own or inherited.
-        m_backgroundWidget = dc;
-        m_savedOwnPalette = dc->testAttribute(Qt::WA_SetPalette);
+    const bool shown = m_displayGrid || !m_designerColor.isNone();
+    if (shown && !m_underlay)
+        m_underlay = new TDesignUnderlay(this, dc);
+    if (m_underlay) {
+        m_underlay->setVisible(shown);
+        m_underlay->lower();
+        m_underlay->update();
     }
-    // Only the window role changes; an inherited palette stays inherited otherwise.
-    QPalette palette = m_savedOwnPalette ? m_savedPalette : QPalette();
-    bool autoFill = m_savedAutoFill;
-    bool own = m_savedOwnPalette;
-    if (m_displayGrid) {
-        const QBrush brush = m_gridBitmap.isNull()
-                                 ? QBrush(fillColor(m_designerColor, dc, m_savedPalette))
-                                 : QBrush(m_gridBitmap);
-        palette.setBrush(QPalette::Window, brush);
-        autoFill = own = true;
-    } else if (!m_designerColor.isNone()) {
-        palette.setColor(QPalette::Window, m_designerColor.toQColor(m_savedPalette));
-        autoFill = own = true;
-    }
-    dc->setPalette(own ? palette : QPalette());
-    dc->setAutoFillBackground(autoFill);
-    dc->update();
 }
 
 void TCustomFormDesigner::restoreDesignBackground()
 {
-    QWidget *dc = m_backgroundWidget;
-    if (!dc)
-        return;
-    dc->setPalette(m_savedOwnPalette ? m_savedPalette : QPalette());
-    dc->setAutoFillBackground(m_savedAutoFill);
-    dc->update();
-    m_backgroundWidget = nullptr;
+    delete m_underlay.data();
 }

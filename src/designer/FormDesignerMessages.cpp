@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "Control.h"
@@ -139,14 +140,14 @@ bool TCustomFormDesigner::buildMessage(QWidget *target, QEvent *event, TDesignMe
 
 bool TCustomFormDesigner::processEvent(QWidget *target, QEvent *event)
 {
-    if (!m_active || !m_attached || target == m_overlay)
+    if (!m_active || !m_attached || target == m_overlay || target == m_underlay)
         return false;
     switch (event->type()) {
     case QEvent::ChildAdded:
     case QEvent::ChildPolished: {
         // Controls that arrive while designing are designed too.
         QObject *child = static_cast<QChildEvent *>(event)->child();
-        if (child->isWidgetType() && child != m_overlay)
+        if (child->isWidgetType() && child != m_overlay && child != m_underlay)
             watchWidget(static_cast<QWidget *>(child));
         if (target == m_attached && m_overlay)
             m_overlay->raise();
@@ -221,8 +222,12 @@ bool TCustomFormDesigner::dispatchMessage(TDesignMessage &msg)
         if (m_mouseAction != maNone)
             mouseMoveAction(msg);
         else if (m_showComponentHint) {
+            // Name and class of the control under the mouse, without touching its own hint.
             QWidget *under = FindWinControl(msg.hwnd);
-            msg.hwnd->setToolTip(under ? GetComponentHint(under) : QString());
+            if (under)
+                QToolTip::showText(msg.pt, GetComponentHint(under), msg.hwnd);
+            else
+                QToolTip::hideText();
         }
         return msg.hwnd != m_attached || m_mouseAction != maNone;
     case WM_LBUTTONDBLCLK:

@@ -343,64 +343,68 @@ void TestDesignSurface::placingCreatesTheArmedClass()
 void TestDesignSurface::gridBackground()
 {
     DesignForm f;
-    f.add<TMaskBtn>(nullptr, {300, 300, 75, 25});
+    auto *button = f.add<TMaskBtn>(nullptr, {300, 300, 75, 25});
     QPalette own = f.surface->palette();
     own.setColor(QPalette::Window, QColor(200, 220, 240));
     own.setColor(QPalette::WindowText, QColor(10, 20, 30));
     f.surface->setPalette(own);
+    f.surface->setAutoFillBackground(true);
     f.designer->setGridStep(8);
     f.designer->setDisplayGrid(true);
     f.designer->setActive(true);
     f.show();
     QVERIFY(QTest::qWaitForWindowExposed(&f.form));
-    auto grid = [&] { return f.surface->palette().brush(QPalette::Window).texture().toImage(); };
     const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
     const QRgb fill = qRgb(200, 220, 240), dot = qRgb(10, 20, 30);
+    auto shown = [&] { return f.surface->grab().toImage(); };
 
     // Without colours of its own: dots in the surface's font colour on its window colour.
-    QImage g = grid();
+    QImage g = f.designer->gridBitmap().toImage();
     QCOMPARE(g.size(), QSize(screen.width() / 8 * 8, screen.height() / 8 * 8));
     QCOMPARE(g.pixel(0, 0), dot);
     QCOMPARE(g.pixel(16, 8), dot);
     QCOMPARE(g.pixel(g.width() - 8, g.height() - 8), dot);
     QCOMPARE(g.pixel(17, 8), fill);
     QCOMPARE(g.pixel(4, 4), fill);
-    QVERIFY(f.surface->autoFillBackground());
-    const QImage shown = f.surface->grab().toImage();
-    QCOMPARE(shown.pixel(16, 8), dot);
-    QCOMPARE(shown.pixel(16, 9), fill);
+    QImage s = shown();
+    QCOMPARE(s.pixel(16, 8), dot);
+    QCOMPARE(s.pixel(16, 9), fill);
+    // The grid stays out of what the controls inherit.
+    QVERIFY(f.surface->palette().brush(QPalette::Window).texture().isNull());
+    QVERIFY(button->palette().brush(QPalette::Window).texture().isNull());
 
     // Its own colours and step.
     f.designer->setGridColor(Colors::clRed);
     f.designer->setDesignerColor(Colors::clWhite);
     f.designer->setGridStep(5);
-    g = grid();
+    g = f.designer->gridBitmap().toImage();
     QCOMPARE(g.size(), QSize(screen.width() / 5 * 5, screen.height() / 5 * 5));
     QCOMPARE(g.pixel(5, 10), qRgb(255, 0, 0));
     QCOMPARE(g.pixel(8, 8), qRgb(255, 255, 255));
+    QCOMPARE(shown().pixel(10, 5), qRgb(255, 0, 0));
 
     // A step wider than the screen: no bitmap, no dots, just the colour.
     f.designer->setGridStep(screen.width() + 1);
-    QVERIFY(f.surface->palette().brush(QPalette::Window).texture().isNull());
-    QCOMPARE(f.surface->palette().color(QPalette::Window), QColor(Qt::white));
+    QVERIFY(f.designer->gridBitmap().isNull());
+    s = shown();
+    QCOMPARE(s.pixel(0, 0), qRgb(255, 255, 255));
+    QCOMPARE(s.pixel(10, 5), qRgb(255, 255, 255));
 
     // Without the grid the designer colour still shows while designing...
     f.designer->setGridStep(8);
     f.designer->setDisplayGrid(false);
-    QVERIFY(f.surface->palette().brush(QPalette::Window).texture().isNull());
-    QCOMPARE(f.surface->palette().color(QPalette::Window), QColor(Qt::white));
+    s = shown();
+    QCOMPARE(s.pixel(16, 8), qRgb(255, 255, 255));
     // ... and without it the surface paints as it always does.
     f.designer->setDesignerColor(Colors::clNone);
-    QCOMPARE(f.surface->palette().color(QPalette::Window), QColor(fill));
-    QVERIFY(!f.surface->autoFillBackground());
+    QCOMPARE(shown().pixel(16, 8), fill);
 
     // Deactivated, everything is as it was.
     f.designer->setDisplayGrid(true);
-    QVERIFY(!grid().isNull());
+    QCOMPARE(shown().pixel(16, 8), qRgb(255, 0, 0));
     f.designer->setActive(false);
-    QVERIFY(f.surface->palette().brush(QPalette::Window).texture().isNull());
+    QCOMPARE(shown().pixel(16, 8), fill);
     QCOMPARE(f.surface->palette().color(QPalette::Window), QColor(fill));
-    QVERIFY(!f.surface->autoFillBackground());
 }
 
 QTEST_MAIN(TestDesignSurface)
