@@ -231,6 +231,7 @@ int TDBRadioGroup::ItemIndex() const
 
 void TDBRadioGroup::setItemIndex(int index)
 {
+    index = std::clamp(index, -1, int(m_buttons.size()) - 1);
     // Radio buttons of one parent exclude each other; unchecking needs that off.
     for (int i = 0; i < m_buttons.size(); ++i) {
         QRadioButton *b = m_buttons.at(i);

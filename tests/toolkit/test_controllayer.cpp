@@ -9,6 +9,7 @@
 #include "ControlClasses.h"
 #include "Graphics.h"
 #include "MyBtn.h"
+#include "helper_properties.h"
 
 class TestControlLayer : public QObject
 {
@@ -21,6 +22,7 @@ private slots:
     void captionFollowsTheNameUntilChanged();
     void autoSizeWaitsWhileLoading();
     void everyPropertySurvivesItsTextForm();
+    void everyPropertyKeepsWhatIsWritten();
     void maskButtonAndDataLabelPublishTheirFields();
     void geometryIsClampedNotCrashed();
 };
@@ -238,6 +240,22 @@ void TestControlLayer::everyPropertySurvivesItsTextForm()
     QCOMPARE(ControlClasses::all().size(), 20);
     QVERIFY(!ControlClasses::find(QStringLiteral("TForm")));
     QVERIFY(!ControlClasses::create(QStringLiteral("")));
+}
+
+void TestControlLayer::everyPropertyKeepsWhatIsWritten()
+{
+    // The lists and the classes agree: each setter writes the attribute its
+    // getter reads, and no property disturbs another.
+    QWidget owner;
+    for (const TClassInfo *info : ControlClasses::all()) {
+        QWidget *w = createSecond(*info, &owner);
+        // Indexes into pages, items and tabs depend on what there is; the
+        // tests of those controls cover them.
+        writeEveryProperty(w, {QStringLiteral("ActivePageIndex"), QStringLiteral("PageIndex"),
+                               QStringLiteral("ItemIndex"), QStringLiteral("TabIndex")});
+        if (QTest::currentTestFailed())
+            return;
+    }
 }
 
 void TestControlLayer::maskButtonAndDataLabelPublishTheirFields()

@@ -1,0 +1,22 @@
+#pragma once
+
+// Shared by the tests of the control classes: every published property
+// written through its descriptor and read back.
+#include <QHash>
+#include <QStringList>
+#include <QVariant>
+
+#include "PropInfo.h"
+
+class QWidget;
+
+QString describe(const TPropInfo &p, const QVariant &v);
+// A value of the property's type that differs from the current one.
+QVariant otherValue(const TPropInfo &p, const QVariant &current, int salt);
+// Writes a new value to every published property (but those in skip), reads
+// them all back and checks every ordinal of every enumeration; reports a
+// mismatch as a test failure. Returns the values written.
+QHash<QString, QVariant> writeEveryProperty(QWidget *w, const QStringList &skip = {});
+// A control of the class as the second of two of its kind on parent, so
+// that its TabOrder can change.
+QWidget *createSecond(const TClassInfo &info, QWidget *parent);
