@@ -282,6 +282,15 @@ QWidget *TCustomFormDesigner::currentControl() const
     return nullptr;
 }
 
+QList<QWidget *> TCustomFormDesigner::selection() const
+{
+    QList<QWidget *> out;
+    for (const QPointer<QWidget> &c : m_controls)
+        if (c)
+            out << c.data();
+    return out;
+}
+
 QWidget *TCustomFormDesigner::Controls(int index) const
 {
     if (index < 0 || index >= m_controls.size() || !m_controls.at(index))

@@ -242,6 +242,8 @@ public:
     void setAncestor(const QByteArray &stream) { m_ancestor = stream; }
     // The current control: the first of the selection, or nullptr.
     QWidget *currentControl() const;
+    // The selected controls that still exist, the current one first.
+    QList<QWidget *> selection() const;
 
     // ---- operations ----
     void Update();

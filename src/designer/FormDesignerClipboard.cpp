@@ -33,15 +33,6 @@ TStreamFormat streamFormat(TDFMFormat format)
     return format == dfmText ? TStreamFormat::Text : TStreamFormat::Binary;
 }
 
-QList<QWidget *> liveControls(const QList<QPointer<QWidget>> &controls)
-{
-    QList<QWidget *> out;
-    for (const QPointer<QWidget> &c : controls)
-        if (c)
-            out << c.data();
-    return out;
-}
-
 bool hasSelectedAncestor(const QWidget *w, const QList<QWidget *> &selection)
 {
     for (const QWidget *p = w->parentWidget(); p; p = p->parentWidget())
@@ -127,9 +118,9 @@ void TCustomFormDesigner::CopyToClipboard()
     // A control whose parent is selected too is written inside the parent;
     // taken out first, the parent stays even when the inner one is current.
     {
-        const QList<QWidget *> selection = liveControls(m_controls);
-        for (QWidget *c : selection)
-            if (hasSelectedAncestor(c, selection))
+        const QList<QWidget *> selected = selection();
+        for (QWidget *c : selected)
+            if (hasSelectedAncestor(c, selected))
                 DeleteControl(c);
     }
     prepareSelection(false);
@@ -137,7 +128,7 @@ void TCustomFormDesigner::CopyToClipboard()
     // Non-visual components: the component streams carry controls only, so
     // their containers leave the selection for the copy and come back after.
     QList<QPointer<QObject>> components;
-    for (QWidget *c : liveControls(m_controls)) {
+    for (QWidget *c : selection()) {
         if (auto *container = qobject_cast<TComponentContainer *>(c)) {
             if (container->Component())
                 components << container->Component();
@@ -145,7 +136,7 @@ void TCustomFormDesigner::CopyToClipboard()
         }
     }
 
-    const QList<QWidget *> controls = liveControls(m_controls);
+    const QList<QWidget *> controls = selection();
     QByteArray bytes;
     for (QWidget *c : controls) {
         bytes += componentToBytes(c, TStreamFormat::Binary);

@@ -114,15 +114,6 @@ void alignAxis(const QList<QWidget *> &list, TAlignMode mode, const Axis &axis, 
     }
 }
 
-QList<QWidget *> liveControls(const QList<QPointer<QWidget>> &controls)
-{
-    QList<QWidget *> out;
-    for (const QPointer<QWidget> &c : controls)
-        if (c)
-            out << c.data();
-    return out;
-}
-
 QList<QRect> geometries(const QList<QWidget *> &controls)
 {
     QList<QRect> out;
@@ -154,7 +145,7 @@ void TCustomFormDesigner::prepareSelection(bool dropLocked)
     if (!current)
         return;
     QWidget *parent = current->parentWidget();
-    for (QWidget *c : liveControls(m_controls)) {
+    for (QWidget *c : selection()) {
         if (c->parentWidget() != parent || (dropLocked && IsLocked(c))) {
             DeleteControl(c);
             c->update();
@@ -183,7 +174,7 @@ void TCustomFormDesigner::AlignToGrid()
     if (!m_active)
         return;
     QList<QWidget *> controls;
-    for (QWidget *c : liveControls(m_controls))
+    for (QWidget *c : selection())
         if (!IsLocked(c))
             controls << c;
     const QList<QRect> before = geometries(controls);
@@ -200,7 +191,7 @@ void TCustomFormDesigner::AlignControls(TAlignMode horizontal, TAlignMode vertic
     if (!m_active)
         return;
     prepareSelection(true);
-    QList<QWidget *> list = liveControls(m_controls);
+    QList<QWidget *> list = selection();
     if (list.isEmpty())
         return;
     std::reverse(list.begin(), list.end());
@@ -216,7 +207,7 @@ void TCustomFormDesigner::SizeControls(TSizeMode widthMode, int widthValue, TSiz
     if (!m_active)
         return;
     prepareSelection(true);
-    const QList<QWidget *> list = liveControls(m_controls);
+    const QList<QWidget *> list = selection();
     if (list.isEmpty())
         return;
     int minWidth = list.first()->width(), maxWidth = minWidth;
