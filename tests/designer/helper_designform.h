@@ -7,6 +7,7 @@
 #include "Components.h"
 #include "Containers.h"
 #include "FormDesigner.h"
+#include "DesignerWidgets.h"
 #include "MyBtn.h"
 
 struct DesignForm
@@ -41,3 +42,30 @@ struct DesignForm
         form.activateWindow();
     }
 };
+
+// What the engine reported.
+struct Reports
+{
+    QList<QWidget *> moved;
+    int changes = 0;
+
+    void watch(TFormDesigner *designer)
+    {
+        designer->OnMoveSizeControl = [this](QObject *, QWidget *c) { moved << c; };
+        designer->OnChange = [this](QObject *) { ++changes; };
+    }
+    void clear()
+    {
+        moved.clear();
+        changes = 0;
+    }
+};
+
+// The handle of the current control at a position.
+inline TGrabHandle *handleAt(QWidget *root, TGrabPosition position)
+{
+    for (TGrabHandle *h : root->findChildren<TGrabHandle *>())
+        if (h->Position() == position)
+            return h;
+    return nullptr;
+}

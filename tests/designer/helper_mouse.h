@@ -74,3 +74,10 @@ inline QString hintText()
     QLabel *label = shownHint();
     return label ? label->text() : QString();
 }
+
+// A press and release through HeldMouse, as a user clicks.
+inline void click(QWidget *w, Qt::KeyboardModifiers modifiers = {}, QPoint pos = QPoint(5, 5))
+{
+    HeldMouse mouse(w, pos, modifiers);
+    mouse.release(modifiers);
+}

@@ -20,37 +20,6 @@ private slots:
 };
 
 namespace {
-struct Reports
-{
-    QList<QWidget *> moved;
-    int changes = 0;
-
-    void watch(TFormDesigner *designer)
-    {
-        designer->OnMoveSizeControl = [this](QObject *, QWidget *c) { moved << c; };
-        designer->OnChange = [this](QObject *) { ++changes; };
-    }
-    void clear()
-    {
-        moved.clear();
-        changes = 0;
-    }
-};
-
-void click(QWidget *w, Qt::KeyboardModifiers modifiers = {}, QPoint pos = QPoint(5, 5))
-{
-    HeldMouse mouse(w, pos, modifiers);
-    mouse.release(modifiers);
-}
-
-QList<QWidget *> selection(const TFormDesigner *designer)
-{
-    QList<QWidget *> out;
-    for (int i = 0; i < designer->ControlCount(); ++i)
-        out << designer->Controls(i);
-    return out;
-}
-
 void key(DesignForm &f, int k, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(f.surface, Qt::Key(k), modifiers);
@@ -137,9 +106,9 @@ void TestDesignSurface::arrowKeysMoveAndSize()
     // Without modifiers the arrows walk the tab order and move nothing.
     r.clear();
     key(f, Qt::Key_Right, {});
-    QCOMPARE(selection(f.designer), QList<QWidget *>{other});
+    QCOMPARE(f.designer->selection(), QList<QWidget *>{other});
     key(f, Qt::Key_Left, {});
-    QCOMPARE(selection(f.designer), QList<QWidget *>{button});
+    QCOMPARE(f.designer->selection(), QList<QWidget *>{button});
     QCOMPARE(button->x(), 11);
     QVERIFY(r.moved.isEmpty());
     QCOMPARE(r.changes, 0);
@@ -178,7 +147,7 @@ void TestDesignSurface::pixelMovesKeepOneContainerAndNoLockedControls()
     QCOMPARE(f.designer->ControlCount(), 4);
     r.clear();
     key(f, Qt::Key_Right, kCtrl);
-    QCOMPARE(selection(f.designer), (QList<QWidget *>{button, other}));
+    QCOMPARE(f.designer->selection(), (QList<QWidget *>{button, other}));
     QCOMPARE(button->pos(), QPoint(21, 48));
     QCOMPARE(other->pos(), QPoint(201, 48));
     QCOMPARE(inner->pos(), QPoint(10, 10));
@@ -212,7 +181,7 @@ void TestDesignSurface::rubberBandSelectsWithinOneContainer()
     QVERIFY(dots > 10);
     band.moveBy({120, 40}); // to (210, 130)
     band.release();
-    QCOMPARE(selection(f.designer), (QList<QWidget *>{a, b}));
+    QCOMPARE(f.designer->selection(), (QList<QWidget *>{a, b}));
     QCOMPARE(f.designer->MouseAction(), maNone);
     QVERIFY(!shownHint());
 
@@ -223,7 +192,7 @@ void TestDesignSurface::rubberBandSelectsWithinOneContainer()
         m.moveBy({120, 40});
         m.release();
     }
-    QCOMPARE(selection(f.designer), QList<QWidget *>{a});
+    QCOMPARE(f.designer->selection(), QList<QWidget *>{a});
 
     // Shift adds.
     {
@@ -231,7 +200,7 @@ void TestDesignSurface::rubberBandSelectsWithinOneContainer()
         m.moveBy({100, 40}, Qt::ShiftModifier);
         m.release(Qt::ShiftModifier);
     }
-    QCOMPARE(selection(f.designer), (QList<QWidget *>{a, c}));
+    QCOMPARE(f.designer->selection(), (QList<QWidget *>{a, c}));
 
     // Started with Ctrl on a container, the band picks among its children.
     f.designer->setSelectInBox(false);
@@ -240,7 +209,7 @@ void TestDesignSurface::rubberBandSelectsWithinOneContainer()
         m.moveBy({60, 20}, Qt::ControlModifier);
         m.release(Qt::ControlModifier);
     }
-    QCOMPARE(selection(f.designer), (QList<QWidget *>{a, c, inner1}));
+    QCOMPARE(f.designer->selection(), (QList<QWidget *>{a, c, inner1}));
 
     // OnEndSelecting may change the rectangle (design control coordinates).
     QRect seen;
@@ -250,7 +219,7 @@ void TestDesignSurface::rubberBandSelectsWithinOneContainer()
     };
     click(f.surface, {}, {500, 380});
     QCOMPARE(seen, QRect(500, 380, 0, 0));
-    QCOMPARE(selection(f.designer), QList<QWidget *>{c});
+    QCOMPARE(f.designer->selection(), QList<QWidget *>{c});
 
     // A click on the empty surface selects nothing.
     f.designer->OnEndSelecting = nullptr;
@@ -281,7 +250,7 @@ void TestDesignSurface::placingCreatesTheArmedClass()
     QCOMPARE(Components::owner(created), static_cast<QObject *>(&f.form));
     QCOMPARE(created->geometry(), QRect(QPoint(120, 80), TPanel().size()));
     QVERIFY(created->isVisible());
-    QCOMPARE(selection(f.designer), QList<QWidget *>{created});
+    QCOMPARE(f.designer->selection(), QList<QWidget *>{created});
     QCOMPARE(r.changes, 1);
     QCOMPARE(f.designer->MouseAction(), maNone);
 

@@ -24,38 +24,6 @@ private slots:
 };
 
 namespace {
-// What the engine reported.
-struct Reports
-{
-    QList<QWidget *> moved;
-    int changes = 0;
-
-    void watch(TFormDesigner *designer)
-    {
-        designer->OnMoveSizeControl = [this](QObject *, QWidget *c) { moved << c; };
-        designer->OnChange = [this](QObject *) { ++changes; };
-    }
-    void clear()
-    {
-        moved.clear();
-        changes = 0;
-    }
-};
-
-TGrabHandle *handleAt(QWidget *root, TGrabPosition position)
-{
-    for (TGrabHandle *h : root->findChildren<TGrabHandle *>())
-        if (h->Position() == position)
-            return h;
-    return nullptr;
-}
-
-void click(QWidget *w, Qt::KeyboardModifiers modifiers = {}, QPoint pos = QPoint(5, 5))
-{
-    HeldMouse mouse(w, pos, modifiers);
-    mouse.release(modifiers);
-}
-
 int countColor(const QImage &image, QRgb color)
 {
     int n = 0;

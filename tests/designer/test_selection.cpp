@@ -30,14 +30,6 @@ QList<TGrabHandle *> visibleHandles(QWidget *root)
     return out;
 }
 
-TGrabHandle *handleAt(QWidget *root, TGrabPosition position)
-{
-    for (TGrabHandle *h : root->findChildren<TGrabHandle *>())
-        if (h->Position() == position)
-            return h;
-    return nullptr;
-}
-
 void click(QWidget *w, Qt::KeyboardModifiers mods = {}, QPoint pos = QPoint(3, 3))
 {
     QTest::mouseClick(w, Qt::LeftButton, mods, pos);
