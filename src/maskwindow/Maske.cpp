@@ -1,6 +1,10 @@
 #include "Maske.h"
 
 #include "Colors.h"
+#include "Components.h"
+#include "Containers.h"
+#include "EditStyle.h"
+#include "FormDesigner.h"
 
 #include <QPalette>
 #include <QScrollArea>
@@ -29,9 +33,44 @@ TMaske::TMaske(QWidget *parent)
 
     setWidget(m_scrollBox);
     resize(640, 460);
+
+    // The engine as masks use it: grid, red locked handles, blue alignment
+    // lines on all four edges, no boxes for non-visual components.
+    m_formDesigner2 = new TFormDesigner(this);
+    m_formDesigner2->setObjectName(QStringLiteral("FormDesigner2"));
+    m_formDesigner2->setDesignControl(m_surface);
+    m_formDesigner2->setDisplayGrid(true);
+    m_formDesigner2->setLockedGrabBorder(Colors::clRed);
+    m_formDesigner2->setLockedGrabFill(Colors::clRed);
+    m_formDesigner2->setShowNonVisual(false);
+    m_formDesigner2->setShowComponentCaptions(true);
+    m_formDesigner2->setEnableAxisDrag(true);
+    m_formDesigner2->setAlignmentLines(lpLeft | lpTop | lpRight | lpBottom);
+    m_formDesigner2->setAlignmentColorLeft(Colors::clBlue);
+    m_formDesigner2->setAlignmentColorTop(Colors::clBlue);
+    m_formDesigner2->setAlignmentColorRight(Colors::clBlue);
+    m_formDesigner2->setAlignmentColorBottom(Colors::clBlue);
+    Components::setOwner(m_formDesigner2, this);
+
+    m_cxStyleController = new TcxEditStyleController(this);
+    m_cxStyleController->setObjectName(QStringLiteral("cxStyleController"));
+    Components::setOwner(m_cxStyleController, this);
 }
 
-TMaske::~TMaske() = default;
+TAdvOfficePage *TMaske::NewOPage(const QString &caption)
+{
+    auto *page = new TAdvOfficePage;
+    Components::setOwner(page, this);
+    AutoName(page, this);
+    page->setCaption(caption);
+    return page;
+}
+
+TMaske::~TMaske()
+{
+    // The engine lets go of the surface before the surface goes.
+    m_formDesigner2->setActive(false);
+}
 
 void TMaske::setPath(const QString &path)
 {

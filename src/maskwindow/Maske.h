@@ -5,6 +5,10 @@
 #include <QScrollArea>
 #include <QString>
 
+class TAdvOfficePage;
+class TcxEditStyleController;
+class TFormDesigner;
+
 // A mask window: one data-entry screen inside the main window. The caption is
 // the file name part of Path(); the main window sets both.
 class TMaske : public QMdiSubWindow
@@ -37,6 +41,18 @@ public:
     QWidget *designSurface() const { return m_surface; }
     QScrollArea *scrollBox() const { return m_scrollBox; }
 
+    // The window's own components: its designer engine, the edit style every
+    // edit control placed on it shares, and the style of its page controls
+    // (the item index of the pager styles, "Office2003 Blau" = 0).
+    TFormDesigner *FormDesigner2() const { return m_formDesigner2; }
+    TcxEditStyleController *cxStyleController() const { return m_cxStyleController; }
+    int OfficePagerStyle() const { return m_officePagerStyle; }
+    void setOfficePagerStyle(int style) { m_officePagerStyle = style; }
+
+    // A new page for a page control, owned by the mask and named by the
+    // naming rule, with the given caption; the caller adds it to the pager.
+    TAdvOfficePage *NewOPage(const QString &caption);
+
 Q_SIGNALS:
     void pathChanged(const QString &path);
 
@@ -48,6 +64,9 @@ private:
     int m_designHeight = 600;
     int m_designWidth = 800;
     bool m_modified = false;
+    TFormDesigner *m_formDesigner2 = nullptr;
+    TcxEditStyleController *m_cxStyleController = nullptr;
+    int m_officePagerStyle = 6; // "WindowsXP"
     QPointer<QScrollArea> m_scrollBox;
     QPointer<QWidget> m_surface;
 };
