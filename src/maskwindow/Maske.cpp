@@ -55,6 +55,7 @@ TMaske::TMaske(QWidget *parent)
     m_cxStyleController = new TcxEditStyleController(this);
     m_cxStyleController->setObjectName(QStringLiteral("cxStyleController"));
     Components::setOwner(m_cxStyleController, this);
+    wireDesigner();
 }
 
 TAdvOfficePage *TMaske::NewOPage(const QString &caption)

@@ -4,8 +4,12 @@
 #include <QPointer>
 #include <QScrollArea>
 #include <QString>
+#include <QStringList>
 
+class QCloseEvent;
 class TAdvOfficePage;
+class TMaskHost;
+struct TDesignMessage;
 class TcxEditStyleController;
 class TFormDesigner;
 
@@ -53,8 +57,46 @@ public:
     // naming rule, with the given caption; the caller adds it to the pager.
     TAdvOfficePage *NewOPage(const QString &caption);
 
+    // The main window that holds the mask (not owned); nullptr stands alone.
+    void setHost(TMaskHost *host) { m_host = host; }
+    TMaskHost *host() const { return m_host; }
+
+    // The two name lists the mask file code works with.
+    QStringList &NameList1() { return m_nameList1; }
+    QStringList &NameList2() { return m_nameList2; }
+
+    // Window events, called by Qt's handlers below and by the main window
+    // (activation comes from the MDI area).
+    void FormShow();
+    void FormActivate();
+    void FormResize();
+    bool FormCloseQuery();
+    void FormClose();
+
+    // Places a control of the palette code into container at pos (container
+    // coordinates), as a click with that tool armed does; returns it (for the
+    // preview image the image), or nullptr when nothing is made.
+    QWidget *placeControl(int code, QWidget *container, const QPoint &pos);
+
 Q_SIGNALS:
     void pathChanged(const QString &path);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    // The designer's events.
+    void FormDesigner2Change();
+    void FormDesigner2SelectControl(QWidget *control);
+    void FormDesigner2MoveSizeControl(QWidget *control);
+    void FormDesigner2PlaceComponent();
+    void FormDesigner2DeleteControl(QWidget *control);
+    void FormDesigner2KeyDown(int &key, Qt::KeyboardModifiers shift);
+    void FormDesigner2Message(TDesignMessage &msg);
+    void wireDesigner();
+    void applyToolFont(QWidget *control);
 
 private:
     QString m_path;
@@ -64,6 +106,10 @@ private:
     int m_designHeight = 600;
     int m_designWidth = 800;
     bool m_modified = false;
+    TMaskHost *m_host = nullptr;
+    QStringList m_nameList1;
+    QStringList m_nameList2;
+    bool m_shownOnce = false;
     TFormDesigner *m_formDesigner2 = nullptr;
     TcxEditStyleController *m_cxStyleController = nullptr;
     int m_officePagerStyle = 6; // "WindowsXP"

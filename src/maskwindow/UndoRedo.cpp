@@ -1,0 +1,192 @@
+#include "UndoRedo.h"
+
+#include <QtEndian>
+
+#include "Components.h"
+#include "Control.h"
+#include "FormDesigner.h"
+#include "Streaming.h"
+
+TUndoStream::TUndoStream(QObject *parent)
+    : QBuffer(parent)
+{
+    open(QIODevice::ReadWrite);
+}
+
+TUndoStream &TUndoStream::instance()
+{
+    static TUndoStream history;
+    return history;
+}
+
+void TUndoStream::appendSnapshotStart()
+{
+    seek(size());
+    m_positions.append(pos());
+    m_current = int(m_positions.size()) - 1;
+}
+
+QByteArray TUndoStream::snapshot(int index) const
+{
+    const qint64 start = m_positions.at(index);
+    qint64 end = size();
+    // Offsets only grow, but the first snapshot is listed twice; the next
+    // start behind this one ends it.
+    for (qint64 p : m_positions) {
+        if (p > start) {
+            end = p;
+            break;
+        }
+    }
+    return data().mid(start, end - start);
+}
+
+// ---- whole-form snapshots ----
+
+void TUndoStream::SaveUndo(TCustomFormDesigner *designer)
+{
+    appendSnapshotStart();
+    designer->SaveToStream(*this);
+}
+
+// The engine reads to the end of whatever it is handed; given the whole
+// history from the offset on it would load every later snapshot as well, so
+// it gets the one snapshot alone.
+void TUndoStream::loadForm(TCustomFormDesigner *designer, int index)
+{
+    seek(m_positions.at(index));
+    // A history nothing was saved to holds no design: loading its empty
+    // stream would clear the mask instead of restoring anything.
+    if (neverSaved())
+        return;
+    QBuffer one;
+    one.setData(snapshot(index));
+    one.open(QIODevice::ReadOnly);
+    try {
+        designer->LoadFromStream(one);
+    } catch (const EFormDesigner &) {
+        // An unreadable snapshot counts as loaded; the steps go on as usual.
+    }
+    seek(m_positions.at(index) + one.pos());
+}
+
+bool TUndoStream::Undo(TCustomFormDesigner *designer)
+{
+    if (m_current >= 0) {
+        loadForm(designer, m_current);
+        --m_current;
+        return true;
+    }
+    m_current = 0;
+    return false;
+}
+
+bool TUndoStream::Redo(TCustomFormDesigner *designer)
+{
+    ++m_current;
+    const int last = int(m_positions.size()) - 1;
+    if (m_current <= last) {
+        loadForm(designer, m_current);
+        return true;
+    }
+    m_current = last;
+    return false;
+}
+
+// ---- component-by-component snapshots ----
+//
+// Layout: the number of components the form owns (32 bits, little-endian),
+// then the controls one after the other. The count takes in every owned
+// component, but only controls placed directly on the design control are
+// written: components that are no widgets (the engine, style controllers)
+// cannot be streamed, and a control inside a container travels within its
+// container's stream, where writing it again would bring it back twice.
+// Reading stops at the first component that cannot be read, so a count
+// larger than what follows simply ends at the snapshot's end.
+
+void TUndoStream::SaveUndoComponents(TCustomFormDesigner *designer)
+{
+    appendSnapshotStart();
+    QWidget *form = designer->ParentForm();
+    const quint32 count = quint32(Components::componentCount(form));
+    char bytes[4];
+    qToLittleEndian(count, bytes);
+    write(bytes, sizeof bytes);
+    QWidget *surface = designer->DesignControl() ? designer->DesignControl() : form;
+    for (QObject *component : Components::components(form)) {
+        if (component == designer)
+            continue;
+        auto *control = qobject_cast<QWidget *>(component);
+        if (!control || control->parentWidget() != surface)
+            continue;
+        designer->SaveComponentToStream(*this, control, dfmBinary);
+    }
+}
+
+// extra: added to the stored count to give the number of components read;
+// undo reads one less than the count (the engine itself is among the owned
+// components but never written), redo reads the full count. The difference
+// is harmless since reading ends cleanly where the snapshot ends.
+void TUndoStream::loadComponents(TCustomFormDesigner *designer, int index, int extra)
+{
+    seek(m_positions.at(index));
+    if (neverSaved())
+        return;
+    QBuffer one;
+    one.setData(snapshot(index));
+    one.open(QIODevice::ReadOnly);
+
+    designer->ClearForm();
+    char bytes[4];
+    if (one.read(bytes, sizeof bytes) != sizeof bytes)
+        return;
+    const int wanted = int(qFromLittleEndian<quint32>(bytes)) + extra;
+
+    QWidget *form = designer->ParentForm();
+    TReadContext ctx;
+    ctx.owner = form;
+    ctx.parent = designer->DesignControl() ? designer->DesignControl() : form;
+    // Properties the program no longer knows are skipped, as when loading a file.
+    ctx.onError = [designer](const QString &message, bool &handled) {
+        if (designer->OnReadError)
+            designer->OnReadError(designer, message, handled);
+    };
+    for (int i = 0; i < wanted && !one.atEnd(); ++i) {
+        QWidget *control = readComponent(one, ctx);
+        if (!control)
+            break;
+        const TControl *c = TControl::from(control);
+        if (control->isHidden() && (!c || c->Visible()))
+            control->show();
+    }
+    seek(m_positions.at(index) + one.pos());
+    designer->UpdateGrabs();
+}
+
+bool TUndoStream::UndoComponents(TCustomFormDesigner *designer)
+{
+    if (m_current >= 0) {
+        loadComponents(designer, m_current, -1);
+        --m_current;
+        return true;
+    }
+    m_current = 0;
+    return false;
+}
+
+bool TUndoStream::RedoComponents(TCustomFormDesigner *designer)
+{
+    ++m_current;
+    const int last = int(m_positions.size()) - 1;
+    if (m_current <= last) {
+        loadComponents(designer, m_current, 0);
+        return true;
+    }
+    m_current = last;
+    return false;
+}
+
+void SaveUndo(TCustomFormDesigner *designer)
+{
+    TUndoStream::instance().SaveUndo(designer);
+}

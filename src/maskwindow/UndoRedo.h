@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QBuffer>
+#include <QList>
+
+class TCustomFormDesigner;
+
+// The undo history of the mask designs: snapshots of a design appended one
+// after the other to an in-memory stream, never removed. positions holds the
+// start offset of each snapshot, current the one the next Undo loads.
+//
+// A new history starts with positions = [0] and current = 0, so the first
+// snapshot is listed twice (index 0 from the start, index 1 from the first
+// save, both at offset 0). Undo therefore loads the state saved last first,
+// and a save after undoing appends: further undos walk back through the
+// undone snapshots as well. The history works this way on purpose.
+//
+// Whole-form snapshots (SaveUndo/Undo/Redo) and component-by-component ones
+// (SaveUndoComponents/UndoComponents/RedoComponents) are laid out differently
+// and must not be mixed in one history.
+class TUndoStream : public QBuffer
+{
+    Q_OBJECT
+public:
+    explicit TUndoStream(QObject *parent = nullptr);
+
+    // The history the whole program shares.
+    static TUndoStream &instance();
+
+    int current() const { return m_current; }
+    const QList<qint64> &positions() const { return m_positions; }
+
+    void SaveUndo(TCustomFormDesigner *designer);
+    bool Undo(TCustomFormDesigner *designer);
+    bool Redo(TCustomFormDesigner *designer);
+
+    void SaveUndoComponents(TCustomFormDesigner *designer);
+    bool UndoComponents(TCustomFormDesigner *designer);
+    bool RedoComponents(TCustomFormDesigner *designer);
+
+private:
+    void appendSnapshotStart();
+    // The bytes of snapshot index: up to the next later start, or to the end.
+    QByteArray snapshot(int index) const;
+    // Nothing was ever saved: there is no design to go back to.
+    bool neverSaved() const { return m_positions.size() <= 1; }
+    void loadForm(TCustomFormDesigner *designer, int index);
+    void loadComponents(TCustomFormDesigner *designer, int index, int extra);
+
+    int m_current = 0;
+    QList<qint64> m_positions{0};
+};
+
+// Records the designer's design in the program's history (TUndoStream::instance()).
+void SaveUndo(TCustomFormDesigner *designer);

@@ -1,0 +1,523 @@
+// The settings window: what it reads from the registry and the settings
+// file, what it writes back, and how its controls react to the user.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSettings>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include "AppPaths.h"
+#include "FormDesigner.h"
+#include "IniFile.h"
+#include "RegistryStore.h"
+#include "SetupDialog.h"
+#include "TestSupport.h"
+
+using namespace Colors;
+
+namespace {
+// Also records what the window presets in the dialogs it opens.
+class RecordingDialogs : public ScriptedDialogs
+{
+public:
+    QList<TColor> colorPresets;
+    QStringList directoryCaptions;
+
+    std::optional<TColor> colorDialog(QWidget *parent, TColor initial) override
+    {
+        colorPresets << initial;
+        return ScriptedDialogs::colorDialog(parent, initial);
+    }
+    QString directoryDialog(QWidget *parent, const QString &caption, const QString &initial) override
+    {
+        directoryCaptions << caption;
+        return ScriptedDialogs::directoryDialog(parent, caption, initial);
+    }
+};
+
+const QString kSection = QStringLiteral("Configuration");
+
+// Every key of the section, in the order the program has always written them.
+const QStringList kKeyOrder = {
+    QStringLiteral("DatenbankPfad"), QStringLiteral("Userlogin"),    QStringLiteral("Userpasswort"),
+    QStringLiteral("DBConnect"),     QStringLiteral("Server_Protocol"), QStringLiteral("LoginName"),
+    QStringLiteral("LoginPass"),     QStringLiteral("DBServer"),     QStringLiteral("DBSAlias"),
+    QStringLiteral("ShowHint"),      QStringLiteral("SnapToGrid"),   QStringLiteral("DisplayGrip"),
+    QStringLiteral("GrapSize"),      QStringLiteral("GridStep"),     QStringLiteral("GridColor"),
+    QStringLiteral("DesignerColor"), QStringLiteral("MFillColor"),   QStringLiteral("MBorderColor"),
+    QStringLiteral("LFillColor"),    QStringLiteral("LBorderColor"), QStringLiteral("NFillColor"),
+    QStringLiteral("NBorderColor"),
+};
+} // namespace
+
+class TestSetup : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir *m_dir = nullptr;
+    QString m_iniPath;
+    QString m_registryPath;
+
+    template <class T>
+    static T *child(const TfrmSetup &w, const char *name)
+    {
+        T *c = w.findChild<T *>(QLatin1String(name));
+        if (!c)
+            qFatal("no child %s", name);
+        return c;
+    }
+    void writeRegistry(const QVariantMap &values)
+    {
+        QSettings store(m_registryPath, QSettings::IniFormat);
+        for (auto it = values.begin(); it != values.end(); ++it)
+            store.setValue(it.key(), it.value());
+    }
+    void writeIni(const QString &text)
+    {
+        QVERIFY(writeFileBytes(m_iniPath, text.toLatin1()));
+    }
+    // Clicks the box where a user does: on its indicator (the box may be
+    // wider than its text).
+    static void clickCheckBox(QCheckBox *box)
+    {
+        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+    }
+    static void showAndWait(TfrmSetup &w)
+    {
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+    }
+    // The widgets the connection mode switches on and off.
+    static QList<QWidget *> serverControls(const TfrmSetup &w)
+    {
+        QList<QWidget *> list;
+        for (const char *name : {"LoginLabel", "Userlogin", "PwLabel", "Userpass", "ServerProtokol",
+                                 "ServerNameLabel", "DBServerName", "DBAliasLabel", "DBAlias", "ServerScanBtn"})
+            list << child<QWidget>(w, name);
+        return list;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_dir = new QTemporaryDir;
+        QVERIFY(m_dir->isValid());
+        m_iniPath = m_dir->filePath(QStringLiteral("ferolith.ini"));
+        m_registryPath = m_dir->filePath(QStringLiteral("registry.ini"));
+        AppPaths::setSettingsFileOverride(m_iniPath);
+        RegistryStore::setFileForTests(m_registryPath);
+    }
+    void cleanup()
+    {
+        AppPaths::setSettingsFileOverride(QString());
+        RegistryStore::setFileForTests(QString());
+        delete m_dir;
+        m_dir = nullptr;
+    }
+
+    void startsWithDefaultsWithoutAnySettings()
+    {
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        QCOMPARE(w.windowTitle(), QStringLiteral("Einstellungen"));
+        QVERIFY(child<QRadioButton>(w, "DBLocal")->isChecked());
+        QVERIFY(!child<QRadioButton>(w, "DBServer")->isChecked());
+        QCOMPARE(child<QLineEdit>(w, "DBPfad")->text(), AppPaths::baseFolder() + "DB" + QDir::separator());
+        QCOMPARE(child<QSpinBox>(w, "udnGridStep")->value(), 8);
+        QCOMPARE(child<QLineEdit>(w, "edtGridStep")->text(), QStringLiteral("8"));
+        QCOMPARE(child<QSpinBox>(w, "udnGrabSize")->value(), 5);
+        QVERIFY(child<QCheckBox>(w, "chbDisplayGrid")->isChecked());
+        QVERIFY(child<QCheckBox>(w, "chbSnapToGrid")->isChecked());
+        QVERIFY(child<QCheckBox>(w, "chbShowHint")->isChecked());
+        QCOMPARE(w.GridColor(), clBlack);
+        QCOMPARE(w.DesignerColor(), clBtnFace); // symbolic, not resolved to a grey
+        QCOMPARE(w.MFillColor(), clGray);
+        QCOMPARE(w.MBorderColor(), clGray);
+        QCOMPARE(w.LFillColor(), clGray);
+        QCOMPARE(w.LBorderColor(), clBlack);
+        QCOMPARE(w.NFillColor(), clBlack);
+        QCOMPARE(w.NBorderColor(), clBlack);
+        QCOMPARE(w.ServerProtokolIndex(), 0);
+        QCOMPARE(child<QSpinBox>(w, "ScanTimeOut")->value(), 1500);
+        QCOMPARE(child<QSpinBox>(w, "ScanTimeOut")->singleStep(), 100);
+        QVERIFY(w.InstallDir().isEmpty());
+        for (QWidget *c : serverControls(w))
+            QVERIFY2(!c->isEnabled(), qPrintable(c->objectName()));
+        QVERIFY(!child<QPushButton>(w, "ScanAlias")->isEnabled());
+        QVERIFY(child<QLineEdit>(w, "DBPfad")->isEnabled());
+        QVERIFY(child<QSpinBox>(w, "ScanTimeOut")->isEnabled());
+        QCOMPARE(child<QLineEdit>(w, "Userpass")->echoMode(), QLineEdit::Normal);
+        QVERIFY(dialogs.messages.isEmpty());
+        QVERIFY(!QFile::exists(m_iniPath)); // reading creates nothing
+    }
+
+    void showsRegistryValuesOfAnInstallation()
+    {
+        writeRegistry({{"Installdir", "/opt/quorbex"},
+                       {"DBPfad", "/srv/db/"},
+                       {"NXProtocol", 2},
+                       {"NXConnection", true},
+                       {"NXServer", "nexus01"},
+                       {"NXAlias", "Kunden"},
+                       {"LoginName", "anna"},
+                       {"LoginPass", "geheim"}});
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        QCOMPARE(w.InstallDir(), QStringLiteral("/opt/quorbex"));
+        QVERIFY(child<QRadioButton>(w, "DBServer")->isChecked());
+        QVERIFY(!child<QRadioButton>(w, "DBLocal")->isChecked());
+        QCOMPARE(w.ServerProtokolIndex(), 2);
+        QCOMPARE(child<QComboBox>(w, "DBServerName")->currentText(), QStringLiteral("nexus01"));
+        QCOMPARE(child<QComboBox>(w, "DBAlias")->currentText(), QStringLiteral("Kunden"));
+        QCOMPARE(child<QLineEdit>(w, "Userlogin")->text(), QStringLiteral("anna"));
+        QCOMPARE(child<QLineEdit>(w, "Userpass")->text(), QStringLiteral("geheim"));
+        for (QWidget *c : serverControls(w))
+            QVERIFY2(c->isEnabled(), qPrintable(c->objectName()));
+        QVERIFY(child<QPushButton>(w, "ScanAlias")->isEnabled());
+        QVERIFY(dialogs.messages.isEmpty());
+    }
+
+    void ignoresRegistryWithoutInstallDir()
+    {
+        writeRegistry({{"NXProtocol", 1}, {"NXConnection", true}, {"NXServer", "nexus01"}, {"LoginName", "anna"}});
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        QVERIFY(child<QRadioButton>(w, "DBLocal")->isChecked());
+        QCOMPARE(w.ServerProtokolIndex(), 0);
+        QVERIFY(child<QComboBox>(w, "DBServerName")->currentText().isEmpty());
+        QVERIFY(child<QLineEdit>(w, "Userlogin")->text().isEmpty());
+        QVERIFY(dialogs.messages.isEmpty());
+    }
+
+    void registryReadErrorStopsLoading_data()
+    {
+        QTest::addColumn<QVariantMap>("registry");
+        QTest::addColumn<QString>("missingValue");
+        QTest::newRow("no NXProtocol") << QVariantMap{{"Installdir", "/opt/q"}, {"NXConnection", true}}
+                                       << QStringLiteral("NXProtocol");
+        QTest::newRow("no NXConnection") << QVariantMap{{"Installdir", "/opt/q"}, {"NXProtocol", 1}}
+                                         << QStringLiteral("NXConnection");
+    }
+    void registryReadErrorStopsLoading()
+    {
+        QFETCH(QVariantMap, registry);
+        QFETCH(QString, missingValue);
+        writeRegistry(registry);
+        writeIni(QStringLiteral("[Configuration]\r\nGridStep=20\r\nLoginName=bert\r\n"));
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        QCOMPARE(dialogs.messages.size(), 1);
+        QCOMPARE(dialogs.messages.first().type, mtError);
+        QVERIFY2(dialogs.messages.first().text.contains(QStringLiteral("Registrierung")),
+                 qPrintable(dialogs.messages.first().text));
+        QVERIFY(dialogs.messages.first().text.contains(missingValue));
+        QCOMPARE(w.InstallDir(), QStringLiteral("/opt/q")); // read before the failure
+        QCOMPARE(child<QSpinBox>(w, "udnGridStep")->value(), 8);
+        QVERIFY(child<QLineEdit>(w, "Userlogin")->text().isEmpty());
+    }
+
+    void settingsFileWinsOverRegistry()
+    {
+        writeRegistry({{"Installdir", "/opt/q"}, {"NXProtocol", 2}, {"NXConnection", true}, {"NXServer", "nexus01"}});
+        writeIni(QStringLiteral("[Configuration]\r\nDBConnect=1\r\nServer_Protocol=1\r\n"));
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        QVERIFY(child<QRadioButton>(w, "DBLocal")->isChecked());
+        QVERIFY(!child<QRadioButton>(w, "DBServer")->isChecked());
+        QCOMPARE(w.ServerProtokolIndex(), 1);
+        QCOMPARE(child<QComboBox>(w, "DBServerName")->currentText(), QStringLiteral("nexus01"));
+        QVERIFY(!child<QComboBox>(w, "DBServerName")->isEnabled());
+        QVERIFY(!child<QPushButton>(w, "ScanAlias")->isEnabled());
+    }
+
+    void loginNameWinsAndOkWritesItToBothKeys()
+    {
+        writeIni(QStringLiteral("[Configuration]\r\nUserlogin=alt\r\nUserpasswort=altpw\r\n"
+                                "LoginName=neu\r\nLoginPass=neupw\r\n"));
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        QCOMPARE(child<QLineEdit>(w, "Userlogin")->text(), QStringLiteral("neu"));
+        QCOMPARE(child<QLineEdit>(w, "Userpass")->text(), QStringLiteral("neupw"));
+        showAndWait(w);
+        QTest::mouseClick(child<QPushButton>(w, "btnOk"), Qt::LeftButton);
+        QCOMPARE(w.result(), int(QDialog::Accepted));
+        const TMemIniFile ini(m_iniPath);
+        QCOMPARE(ini.readString(kSection, "Userlogin", QString()), QStringLiteral("neu"));
+        QCOMPARE(ini.readString(kSection, "LoginName", QString()), QStringLiteral("neu"));
+        QCOMPARE(ini.readString(kSection, "Userpasswort", QString()), QStringLiteral("neupw"));
+        QCOMPARE(ini.readString(kSection, "LoginPass", QString()), QStringLiteral("neupw"));
+    }
+
+    void databasePathGetsTrailingSeparator()
+    {
+        writeIni(QStringLiteral("[Configuration]\r\nDatenbankPfad=/data/db\r\n"));
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+#ifdef Q_OS_WIN
+        QCOMPARE(child<QLineEdit>(w, "DBPfad")->text(), QStringLiteral("/DATA/DB\\"));
+#else
+        // Case matters on this file system: the path stays as written.
+        QCOMPARE(child<QLineEdit>(w, "DBPfad")->text(), QStringLiteral("/data/db/"));
+#endif
+    }
+
+    void badSettingsKeepDefaults()
+    {
+        writeIni(QStringLiteral("[Configuration]\r\nGridColor=Fliederlila\r\nDesignerColor=$00FF0000\r\n"
+                                "GrapSize=500\r\nGridStep=abc\r\nDisplayGrip=0\r\nNFillColor=clRed\r\n"));
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        QCOMPARE(w.GridColor(), clBlack);
+        QCOMPARE(w.DesignerColor(), clBlue);
+        QCOMPARE(w.NFillColor(), clRed);
+        QCOMPARE(child<QSpinBox>(w, "udnGrabSize")->value(), 128);
+        QCOMPARE(child<QSpinBox>(w, "udnGridStep")->value(), 8);
+        QVERIFY(!child<QCheckBox>(w, "chbDisplayGrid")->isChecked());
+        QVERIFY(dialogs.messages.isEmpty());
+    }
+
+    void cancelWritesNothingButTheDesignerFollows()
+    {
+        writeIni(QStringLiteral("; eigene Notiz\r\n[Configuration]\r\nGridStep=8\r\n"));
+        const QByteArray before = readFileBytes(m_iniPath);
+        QWidget form;
+        TFormDesigner main(&form);
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        w.mainDesigner = [&main] { return &main; };
+        showAndWait(w);
+        auto *step = child<QSpinBox>(w, "udnGridStep");
+        step->setFocus();
+        QTest::keyClick(step, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(step, QStringLiteral("16"));
+        clickCheckBox(child<QCheckBox>(w, "chbSnapToGrid"));
+        QTest::mouseClick(child<QPushButton>(w, "btnCancel"), Qt::LeftButton);
+        QCOMPARE(w.result(), int(QDialog::Rejected));
+        QVERIFY(!w.isVisible());
+        QCOMPARE(readFileBytes(m_iniPath), before);
+        QCOMPARE(main.GridStep(), 16);
+        QVERIFY(!main.SnapToGrid());
+        // The change stays in the window and reaches every mask activated later.
+        QWidget maskForm;
+        TFormDesigner mask(&maskForm);
+        w.applyTo(&mask);
+        QCOMPARE(mask.GridStep(), 16);
+        QVERIFY(!mask.SnapToGrid());
+    }
+
+    void applyToCopiesEveryDesignerSetting()
+    {
+        writeIni(QStringLiteral("[Configuration]\r\nShowHint=0\r\nSnapToGrid=0\r\nDisplayGrip=0\r\n"
+                                "GrapSize=7\r\nGridStep=12\r\nGridColor=clRed\r\nDesignerColor=clWhite\r\n"
+                                "MFillColor=clLime\r\nMBorderColor=clNavy\r\nLFillColor=clTeal\r\n"
+                                "LBorderColor=clMaroon\r\nNFillColor=clYellow\r\nNBorderColor=clAqua\r\n"));
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        QWidget form;
+        TFormDesigner d(&form);
+        w.applyTo(&d);
+        QVERIFY(!d.ShowMoveSizeHint());
+        QVERIFY(!d.SnapToGrid());
+        QVERIFY(!d.DisplayGrid());
+        QCOMPARE(d.GrabSize(), 7);
+        QCOMPARE(d.GridStep(), 12);
+        QCOMPARE(d.GridColor(), clRed);
+        QCOMPARE(d.DesignerColor(), clWhite);
+        QCOMPARE(d.MultiGrabFill(), clLime);
+        QCOMPARE(d.MultiGrabBorder(), clNavy);
+        QCOMPARE(d.LockedGrabFill(), clTeal);
+        QCOMPARE(d.LockedGrabBorder(), clMaroon);
+        QCOMPARE(d.NormalGrabFill(), clYellow);
+        QCOMPARE(d.NormalGrabBorder(), clAqua);
+    }
+
+    void okWritesEveryKeyInOrderToANewPrivateFile()
+    {
+        QWidget form;
+        TFormDesigner main(&form);
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        w.mainDesigner = [&main] { return &main; };
+        showAndWait(w);
+        clickCheckBox(child<QCheckBox>(w, "chbDisplayGrid"));
+        QTest::mouseClick(child<QRadioButton>(w, "DBServer"), Qt::LeftButton);
+        QTest::mouseClick(child<QRadioButton>(w, "ServerProtokol_2"), Qt::LeftButton);
+        auto *grab = child<QSpinBox>(w, "udnGrabSize");
+        grab->setFocus();
+        QTest::keyClick(grab, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(grab, QStringLiteral("9"));
+        QTest::mouseClick(child<QPushButton>(w, "btnOk"), Qt::LeftButton);
+        QCOMPARE(w.result(), int(QDialog::Accepted));
+        QVERIFY(dialogs.messages.isEmpty());
+
+        const TMemIniFile ini(m_iniPath);
+        QCOMPARE(ini.readSection(kSection), kKeyOrder);
+        QCOMPARE(ini.readString(kSection, "DatenbankPfad", QString()), AppPaths::baseFolder() + "DB" + QDir::separator());
+        QCOMPARE(ini.readString(kSection, "DBConnect", QString()), QStringLiteral("0"));
+        QCOMPARE(ini.readString(kSection, "Server_Protocol", QString()), QStringLiteral("2"));
+        QCOMPARE(ini.readString(kSection, "DisplayGrip", QString()), QStringLiteral("0"));
+        QCOMPARE(ini.readString(kSection, "ShowHint", QString()), QStringLiteral("1"));
+        QCOMPARE(ini.readString(kSection, "GrapSize", QString()), QStringLiteral("9"));
+        QCOMPARE(ini.readString(kSection, "GridStep", QString()), QStringLiteral("8"));
+        QCOMPARE(ini.readString(kSection, "DesignerColor", QString()), QStringLiteral("clBtnFace"));
+        QCOMPARE(ini.readString(kSection, "MFillColor", QString()), QStringLiteral("clGray"));
+        QCOMPARE(main.GrabSize(), 9);
+        QVERIFY(!main.DisplayGrid());
+#ifdef Q_OS_UNIX
+        QCOMPARE(QFile::permissions(m_iniPath) & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther
+                                                  | QFile::WriteOther | QFile::ExeOwner),
+                 QFile::Permissions());
+        QVERIFY(QFile::permissions(m_iniPath).testFlag(QFile::ReadOwner));
+#endif
+
+        // What was written reads back as it was shown.
+        TfrmSetup again;
+        QVERIFY(child<QRadioButton>(again, "DBServer")->isChecked());
+        QCOMPARE(again.ServerProtokolIndex(), 2);
+        QCOMPARE(child<QSpinBox>(again, "udnGrabSize")->value(), 9);
+        QVERIFY(!child<QCheckBox>(again, "chbDisplayGrid")->isChecked());
+        QCOMPARE(again.DesignerColor(), clBtnFace);
+    }
+
+    void okKeepsTheRestOfTheFile()
+    {
+        writeIni(QStringLiteral("[Fenster]\r\nLinks=10\r\n[Configuration]\r\nGridStep=8\r\nEigen=ja\r\n"));
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        showAndWait(w);
+        QTest::mouseClick(child<QPushButton>(w, "btnOk"), Qt::LeftButton);
+        const TMemIniFile ini(m_iniPath);
+        QCOMPARE(ini.readString(QStringLiteral("Fenster"), "Links", QString()), QStringLiteral("10"));
+        QCOMPARE(ini.readString(kSection, "Eigen", QString()), QStringLiteral("ja"));
+        QCOMPARE(ini.readString(kSection, "NBorderColor", QString()), QStringLiteral("clBlack"));
+    }
+
+    void writeErrorKeepsTheWindowOpen()
+    {
+        m_iniPath = m_dir->filePath(QStringLiteral("fehlt/ferolith.ini"));
+        AppPaths::setSettingsFileOverride(m_iniPath);
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        showAndWait(w);
+        QTest::mouseClick(child<QPushButton>(w, "btnOk"), Qt::LeftButton);
+        QCOMPARE(dialogs.messages.size(), 1);
+        QCOMPARE(dialogs.messages.first().type, mtError);
+        QVERIFY(!dialogs.messages.first().text.isEmpty());
+        QVERIFY(w.isVisible());
+        QVERIFY(!QFile::exists(m_iniPath));
+    }
+
+    void connectionModeSwitchesServerControls()
+    {
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        showAndWait(w);
+        auto *scanAlias = child<QPushButton>(w, "ScanAlias");
+        QTest::mouseClick(child<QRadioButton>(w, "DBServer"), Qt::LeftButton);
+        for (QWidget *c : serverControls(w))
+            QVERIFY2(c->isEnabled(), qPrintable(c->objectName()));
+        QVERIFY(!scanAlias->isEnabled()); // no server name yet
+
+        auto *serverName = child<QComboBox>(w, "DBServerName");
+        QTest::keyClicks(serverName, QStringLiteral("nx"));
+        QVERIFY(scanAlias->isEnabled());
+        QTest::keyClick(serverName, Qt::Key_Backspace);
+        QTest::keyClick(serverName, Qt::Key_Backspace);
+        QVERIFY(!scanAlias->isEnabled());
+        QTest::keyClicks(serverName, QStringLiteral("nexus"));
+
+        QTest::mouseClick(child<QRadioButton>(w, "DBLocal"), Qt::LeftButton);
+        for (QWidget *c : serverControls(w))
+            QVERIFY2(!c->isEnabled(), qPrintable(c->objectName()));
+        QVERIFY(!scanAlias->isEnabled());
+        QVERIFY(child<QLineEdit>(w, "DBPfad")->isEnabled());
+        QVERIFY(child<QSpinBox>(w, "ScanTimeOut")->isEnabled());
+        QVERIFY(child<QLabel>(w, "lblTimeOut")->isEnabled());
+
+        QTest::mouseClick(child<QRadioButton>(w, "DBServer"), Qt::LeftButton);
+        QVERIFY(scanAlias->isEnabled()); // the name typed before is still there
+    }
+
+    void scanButtonsCallTheirHandlers()
+    {
+        writeIni(QStringLiteral("[Configuration]\r\nDBConnect=0\r\nDBServer=nexus\r\n"));
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        QStringList calls;
+        w.onScanServer = [&calls] { calls << QStringLiteral("server"); };
+        w.onScanAlias = [&calls] { calls << QStringLiteral("alias"); };
+        showAndWait(w);
+        QTest::mouseClick(child<QPushButton>(w, "ServerScanBtn"), Qt::LeftButton);
+        QTest::mouseClick(child<QPushButton>(w, "ScanAlias"), Qt::LeftButton);
+        QCOMPARE(calls, QStringList({QStringLiteral("server"), QStringLiteral("alias")}));
+    }
+
+    void colourButtonWithoutOpenMaskRefuses()
+    {
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        w.activeDesigner = [] { return static_cast<TFormDesigner *>(nullptr); };
+        showAndWait(w);
+        QTest::mouseClick(child<QToolButton>(w, "btnGridColor"), Qt::LeftButton);
+        QCOMPARE(dialogs.messages.size(), 1);
+        QCOMPARE(dialogs.messages.first().text, QStringLiteral("Es ist keine Maske geöffnet."));
+        QCOMPARE(dialogs.messages.first().type, mtInformation);
+        QVERIFY(dialogs.colorPresets.isEmpty());
+        QCOMPARE(w.GridColor(), clBlack);
+    }
+
+    void colourButtonStartsFromTheActiveMask()
+    {
+        QWidget form;
+        TFormDesigner active(&form);
+        active.setMultiGrabFill(clRed);
+        active.setDesignerColor(clWindow);
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        w.activeDesigner = [&active] { return &active; };
+        showAndWait(w);
+        dialogs.colorAnswers << std::optional<TColor>(clBlue) << std::nullopt;
+        QTest::mouseClick(child<QToolButton>(w, "btnMFill"), Qt::LeftButton);
+        QTest::mouseClick(child<QToolButton>(w, "btnDesignerColor"), Qt::LeftButton);
+        QCOMPARE(dialogs.colorPresets, QList<TColor>({clRed, clWindow}));
+        QCOMPARE(w.MFillColor(), clBlue);
+        QCOMPARE(child<QFrame>(w, "pnlMFill")->palette().color(QPalette::Window), QColor(Qt::blue));
+        QCOMPARE(w.DesignerColor(), clBtnFace); // the dialog was cancelled
+        QCOMPARE(active.MultiGrabFill(), clRed); // chosen, not applied yet
+        QCOMPARE(dialogs.unexpected, 0);
+    }
+
+    void browsingSetsTheDatabasePath()
+    {
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        showAndWait(w);
+        dialogs.directoryAnswers << m_dir->path();
+        QTest::mouseClick(child<QToolButton>(w, "btnDBPfad"), Qt::LeftButton);
+        QCOMPARE(dialogs.directoryCaptions, QStringList(QStringLiteral("Bitte wählen Sie den Datenbankpfad aus:")));
+        QCOMPARE(child<QLineEdit>(w, "DBPfad")->text(), AppPaths::withTrailingSeparator(m_dir->path()));
+    }
+
+    void focusStartsOnTheDesignerColourButton()
+    {
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        showAndWait(w);
+        w.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&w));
+        QCOMPARE(QApplication::focusWidget(), child<QWidget>(w, "btnDesignerColor"));
+    }
+};
+
+QTEST_MAIN(TestSetup)
+#include "test_setup.moc"

@@ -1,0 +1,464 @@
+// The small windows of the mask tools, driven with mouse and keys: sizing the
+// selection, the alignment tool window and the pull-down list editor.
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolButton>
+#include <QtTest>
+
+#include "../designer/helper_designform.h"
+#include "../designer/helper_dialogs.h"
+#include "AlignDlg.h"
+#include "Edits.h"
+#include "MemoDialog.h"
+#include "SizeForm.h"
+#include "TestSupport.h"
+
+using DialogTest::buttonWithText;
+using DialogTest::child;
+using DialogTest::clickRadio;
+
+class TestSmallDialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sizeFormStartsAfreshOnEveryShow();
+    void sizeFormClosesWithoutValueChoices_data();
+    void sizeFormClosesWithoutValueChoices();
+    void sizeFormRefusesBadWidth_data();
+    void sizeFormRefusesBadWidth();
+    void sizeFormChecksHeightOnlyAfterTheWidth();
+    void sizeFormEditsTakeDigitsOnly();
+    void sizeFormCancelNeverComplains();
+    void runSizeDialogSizesTheSelection();
+
+    void alignmentWindowShowsItsButtons();
+    void alignmentButtonsAlignAlongTheirAxis();
+    void alignmentButtonsWithoutMaskDoNothing();
+
+    void memoDialogEditsTheComboItems();
+    void memoDialogCancelKeepsTheItems();
+    void memoDialogWithoutComboUsesTheHint();
+};
+
+namespace {
+
+QRadioButton *radio(QWidget *dialog, const char *group, int index)
+{
+    auto *box = child<QWidget>(dialog, group);
+    return box ? box->findChild<QRadioButton *>(QString::fromLatin1(group) + QString::number(index)) : nullptr;
+}
+
+// Replaces the edit's text as a user does: select everything, type.
+void retype(QLineEdit *edit, const QString &text)
+{
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    QTest::keyClicks(edit, text);
+}
+
+struct SizeUse
+{
+    int width = 0, height = 0;
+    QString widthText, heightText;
+};
+
+// Shows the dialog, picks the choices, types the values and clicks OK.
+void fillSizeForm(QDialog *dlg, const SizeUse &use)
+{
+    dlg->show();
+    clickRadio(radio(dlg, "HorizontalSize", use.width));
+    clickRadio(radio(dlg, "VerticalSize", use.height));
+    retype(child<QLineEdit>(dlg, "SizeWidth"), use.widthText);
+    retype(child<QLineEdit>(dlg, "SizeHeight"), use.heightText);
+    QTest::mouseClick(buttonWithText(dlg, QStringLiteral("&OK")), Qt::LeftButton);
+}
+
+QStringList messageTexts(const ScriptedDialogs &dialogs)
+{
+    QStringList out;
+    for (const ScriptedDialogs::Message &m : dialogs.messages)
+        out << m.text;
+    return out;
+}
+
+// Three controls at uneven places, the first one selected first.
+struct AlignFixture
+{
+    DesignForm f;
+    QList<QWidget *> controls;
+
+    AlignFixture()
+    {
+        controls << f.add<TMaskBtn>(nullptr, {100, 40, 80, 25}) << f.add<TMaskBtn>(nullptr, {30, 120, 120, 40})
+                 << f.add<TMaskBtn>(nullptr, {260, 230, 60, 20});
+        f.designer->setActive(true);
+        for (QWidget *c : controls)
+            f.designer->AddControl(c);
+    }
+    QList<QRect> geometries() const
+    {
+        QList<QRect> out;
+        for (QWidget *c : controls)
+            out << c->geometry();
+        return out;
+    }
+};
+
+} // namespace
+
+// ---- TSizeForm ----
+
+void TestSmallDialogs::sizeFormStartsAfreshOnEveryShow()
+{
+    TSizeForm dlg;
+    QCOMPARE(dlg.windowTitle(), QStringLiteral("Größe anpassen"));
+    QCOMPARE(child<QGroupBox>(&dlg, "HorizontalSize")->title(), QStringLiteral(" Breite "));
+    QCOMPARE(child<QGroupBox>(&dlg, "VerticalSize")->title(), QStringLiteral(" Höhe "));
+    QVERIFY(buttonWithText(&dlg, QStringLiteral("&Abbrechen")));
+
+    ScriptedDialogs dialogs;
+    fillSizeForm(&dlg, {3, 3, QStringLiteral("12"), QStringLiteral("34")});
+    QCOMPARE(dlg.result(), int(QDialog::Accepted));
+    QCOMPARE(dlg.widthText(), QStringLiteral("12"));
+
+    dlg.show();
+    QCOMPARE(dlg.HorizontalIndex(), 0);
+    QCOMPARE(dlg.VerticalIndex(), 0);
+    QVERIFY(radio(&dlg, "HorizontalSize", 0)->isChecked());
+    QCOMPARE(dlg.widthText(), QStringLiteral("0"));
+    QCOMPARE(dlg.heightText(), QStringLiteral("0"));
+}
+
+void TestSmallDialogs::sizeFormClosesWithoutValueChoices_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<QString>("text");
+    for (int choice = 0; choice < 3; ++choice) {
+        QTest::addRow("choice %d, empty", choice) << choice << 2 - choice << QString();
+        QTest::addRow("choice %d, zero", choice) << choice << 2 - choice << QStringLiteral("0");
+    }
+}
+
+void TestSmallDialogs::sizeFormClosesWithoutValueChoices()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    QFETCH(QString, text);
+    ScriptedDialogs dialogs;
+    TSizeForm dlg;
+    fillSizeForm(&dlg, {width, height, text, text});
+    QCOMPARE(dlg.result(), int(QDialog::Accepted));
+    QVERIFY(!dlg.isVisible());
+    QVERIFY(dialogs.messages.isEmpty());
+    QCOMPARE(dlg.HorizontalIndex(), width);
+    QCOMPARE(dlg.VerticalIndex(), height);
+}
+
+void TestSmallDialogs::sizeFormRefusesBadWidth_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("zero") << QStringLiteral("0") << QStringLiteral("Width must be greater than 0");
+    QTest::newRow("zeros") << QStringLiteral("000") << QStringLiteral("Width must be greater than 0");
+    QTest::newRow("empty") << QString() << QStringLiteral("Invalid width entry.  Please re-enter.");
+}
+
+void TestSmallDialogs::sizeFormRefusesBadWidth()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, message);
+    ScriptedDialogs dialogs;
+    TSizeForm dlg;
+    // The height would be refused too, but only one complaint comes up.
+    fillSizeForm(&dlg, {3, 3, typed, QStringLiteral("0")});
+
+    QCOMPARE(messageTexts(dialogs), QStringList{message});
+    QCOMPARE(dialogs.messages.first().type, mtInformation);
+    QCOMPARE(dialogs.messages.first().buttons, TMsgDlgButtons(mbOK));
+    QVERIFY(dlg.isVisible());
+    QVERIFY(dlg.result() != QDialog::Accepted);
+    QCOMPARE(dlg.widthText(), typed);
+    QCOMPARE(dlg.focusWidget(), child<QWidget>(&dlg, "SizeWidth"));
+
+    // Put right, the same OK closes.
+    retype(child<QLineEdit>(&dlg, "SizeWidth"), QStringLiteral("7"));
+    retype(child<QLineEdit>(&dlg, "SizeHeight"), QStringLiteral("8"));
+    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
+    QCOMPARE(dlg.result(), int(QDialog::Accepted));
+    QCOMPARE(dialogs.messages.size(), 1);
+}
+
+void TestSmallDialogs::sizeFormChecksHeightOnlyAfterTheWidth()
+{
+    ScriptedDialogs dialogs;
+    TSizeForm dlg;
+    fillSizeForm(&dlg, {3, 3, QStringLiteral("25"), QStringLiteral("0")});
+    QCOMPARE(messageTexts(dialogs), QStringList{QStringLiteral("Height must be greater than 0")});
+    QVERIFY(dlg.isVisible());
+    QCOMPARE(dlg.focusWidget(), child<QWidget>(&dlg, "SizeHeight"));
+
+    retype(child<QLineEdit>(&dlg, "SizeHeight"), QString());
+    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
+    QCOMPARE(messageTexts(dialogs).last(), QStringLiteral("Invalid height entry.  Please re-enter."));
+    QVERIFY(dlg.isVisible());
+
+    // A bad width is not looked at while its choice keeps the width.
+    dialogs.messages.clear();
+    clickRadio(radio(&dlg, "HorizontalSize", 1));
+    retype(child<QLineEdit>(&dlg, "SizeWidth"), QString());
+    retype(child<QLineEdit>(&dlg, "SizeHeight"), QStringLiteral("5"));
+    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
+    QVERIFY(dialogs.messages.isEmpty());
+    QCOMPARE(dlg.result(), int(QDialog::Accepted));
+}
+
+void TestSmallDialogs::sizeFormEditsTakeDigitsOnly()
+{
+    TSizeForm dlg;
+    dlg.show();
+    auto *width = child<QLineEdit>(&dlg, "SizeWidth");
+    retype(width, QStringLiteral("a1b2-3.,x 4"));
+    QCOMPARE(width->text(), QStringLiteral("1234"));
+
+    QTest::keyClick(width, Qt::Key_Backspace);
+    QCOMPARE(width->text(), QStringLiteral("123"));
+    QTest::keyClick(width, Qt::Key_Home);
+    QTest::keyClick(width, Qt::Key_Right);
+    QTest::keyClicks(width, QStringLiteral("9Z"));
+    QCOMPARE(width->text(), QStringLiteral("1923"));
+
+    auto *height = child<QLineEdit>(&dlg, "SizeHeight");
+    retype(height, QStringLiteral("Hoehe 40"));
+    QCOMPARE(height->text(), QStringLiteral("40"));
+}
+
+void TestSmallDialogs::sizeFormCancelNeverComplains()
+{
+    ScriptedDialogs dialogs;
+    TSizeForm dlg;
+    dlg.show();
+    clickRadio(radio(&dlg, "HorizontalSize", 3));
+    retype(child<QLineEdit>(&dlg, "SizeWidth"), QString());
+    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&Abbrechen")), Qt::LeftButton);
+    QCOMPARE(dlg.result(), int(QDialog::Rejected));
+    QVERIFY(!dlg.isVisible());
+    QVERIFY(dialogs.messages.isEmpty());
+}
+
+void TestSmallDialogs::runSizeDialogSizesTheSelection()
+{
+    DesignForm f;
+    auto *a = f.add<TMaskBtn>(nullptr, {10, 10, 80, 25});
+    auto *b = f.add<TMaskBtn>(nullptr, {10, 60, 120, 30});
+    f.designer->setActive(true);
+    ScriptedDialogs dialogs;
+
+    // No selection: no dialog.
+    runSizeDialog(&f.form, f.designer);
+    QVERIFY(dialogs.dialogTitles.isEmpty());
+
+    f.designer->AddControl(a);
+    f.designer->AddControl(b);
+
+    // A typed width; the emptied height edit does not matter for "Keine Änderung".
+    dialogs.dialogAnswers << [](QDialog *dlg) {
+        fillSizeForm(dlg, {3, 0, QStringLiteral("40"), QString()});
+        return dlg->result();
+    };
+    runSizeDialog(&f.form, f.designer);
+    QCOMPARE(dialogs.dialogTitles, QStringList{QStringLiteral("Größe anpassen")});
+    QCOMPARE(a->size(), QSize(40, 25));
+    QCOMPARE(b->size(), QSize(40, 30));
+
+    // Largest height, no width change.
+    dialogs.dialogAnswers << [](QDialog *dlg) {
+        fillSizeForm(dlg, {0, 2, QString(), QString()});
+        return dlg->result();
+    };
+    runSizeDialog(&f.form, f.designer);
+    QCOMPARE(a->size(), QSize(40, 30));
+
+    // Refused OK, then given up: nothing changes.
+    dialogs.messageAnswers << mrOk;
+    dialogs.dialogAnswers << [](QDialog *dlg) {
+        fillSizeForm(dlg, {3, 0, QString(), QString()});
+        QTest::mouseClick(buttonWithText(dlg, QStringLiteral("&Abbrechen")), Qt::LeftButton);
+        return dlg->result();
+    };
+    runSizeDialog(&f.form, f.designer);
+    QCOMPARE(messageTexts(dialogs), QStringList{QStringLiteral("Invalid width entry.  Please re-enter.")});
+    QCOMPARE(a->size(), QSize(40, 30));
+
+    // Confirmed with the width edit empty: the empty text counts as 0.
+    dialogs.dialogAnswers << [](QDialog *dlg) {
+        dlg->show();
+        clickRadio(radio(dlg, "HorizontalSize", 3));
+        retype(child<QLineEdit>(dlg, "SizeWidth"), QString());
+        return int(QDialog::Accepted);
+    };
+    runSizeDialog(&f.form, f.designer);
+    QCOMPARE(a->width(), 0);
+    QCOMPARE(b->width(), 0);
+    QCOMPARE(a->height(), 30);
+    QCOMPARE(dialogs.unexpected, 0);
+}
+
+// ---- TFormAlignment ----
+
+void TestSmallDialogs::alignmentWindowShowsItsButtons()
+{
+    TFormAlignment window;
+    QCOMPARE(window.windowTitle(), QStringLiteral("Ausrichtung"));
+    QVERIFY(window.windowFlags() & Qt::Tool);
+    const QList<std::tuple<const char *, QString, int, bool>> expected{
+        {"SBALeft", QStringLiteral("Linksbündig"), 1, false},
+        {"SBAHCenter", QStringLiteral("Horizontal zentrieren"), 2, false},
+        {"SBARight", QStringLiteral("Rechtsbündig"), 3, false},
+        {"SBSizeH", QStringLiteral("gleicher Abstand Horizontal"), 4, false},
+        {"SBHCenter", QStringLiteral("Horizontal ausrichten"), 5, false},
+        {"SBATop", QStringLiteral("Oben ausrichten"), 1, true},
+        {"SBAVCenter", QStringLiteral("Vertikal zentrierern"), 2, true},
+        {"SBABottom", QStringLiteral("Unten ausrichten"), 3, true},
+        {"SBSizeV", QStringLiteral("gleicher Abstand Vertikal"), 4, true},
+        {"SBVCenter", QStringLiteral("Vertikal ausrichten"), 5, true},
+    };
+    QCOMPARE(window.findChildren<QToolButton *>().size(), expected.size());
+    for (const auto &[name, hint, tag, vertical] : expected) {
+        auto *button = child<QToolButton>(&window, name);
+        QVERIFY2(button, name);
+        QCOMPARE(button->toolTip(), hint);
+        QCOMPARE(button->property("Tag").toInt(), tag);
+        QCOMPARE(button->property("Vertical").toBool(), vertical);
+        QVERIFY(button->autoRaise());
+        QVERIFY(!button->icon().isNull());
+    }
+}
+
+void TestSmallDialogs::alignmentButtonsAlignAlongTheirAxis()
+{
+    const char *const names[] = {"SBALeft", "SBAHCenter", "SBARight", "SBSizeH", "SBHCenter",
+                                 "SBATop", "SBAVCenter", "SBABottom", "SBSizeV", "SBVCenter"};
+    for (int i = 0; i < 10; ++i) {
+        const bool vertical = i >= 5;
+        const TAlignMode mode = TAlignMode(i % 5 + 1);
+        AlignFixture clicked, direct;
+        const QList<QRect> before = clicked.geometries();
+
+        TFormAlignment window;
+        window.activeDesigner = [&clicked] { return clicked.f.designer; };
+        window.show();
+        QTest::mouseClick(child<QToolButton>(&window, names[i]), Qt::LeftButton);
+
+        direct.f.designer->AlignControls(vertical ? amNoChange : mode, vertical ? mode : amNoChange);
+        QVERIFY2(clicked.geometries() != before, names[i]);
+        QCOMPARE(clicked.geometries(), direct.geometries());
+        // Only the button's own axis moves.
+        for (int c = 0; c < before.size(); ++c) {
+            const QRect now = clicked.geometries().at(c);
+            QCOMPARE(now.size(), before.at(c).size());
+            QCOMPARE(vertical ? now.x() : now.y(), vertical ? before.at(c).x() : before.at(c).y());
+        }
+    }
+
+    // In plain words: left edges and tops follow the first selected.
+    AlignFixture fx;
+    TFormAlignment window;
+    window.activeDesigner = [&fx] { return fx.f.designer; };
+    QTest::mouseClick(child<QToolButton>(&window, "SBALeft"), Qt::LeftButton);
+    QTest::mouseClick(child<QToolButton>(&window, "SBATop"), Qt::LeftButton);
+    for (QWidget *c : fx.controls)
+        QCOMPARE(c->pos(), QPoint(100, 40));
+}
+
+void TestSmallDialogs::alignmentButtonsWithoutMaskDoNothing()
+{
+    AlignFixture fx;
+    const QList<QRect> before = fx.geometries();
+    TFormAlignment window;
+    QTest::mouseClick(child<QToolButton>(&window, "SBARight"), Qt::LeftButton);
+    window.activeDesigner = [] { return static_cast<TCustomFormDesigner *>(nullptr); };
+    QTest::mouseClick(child<QToolButton>(&window, "SBABottom"), Qt::LeftButton);
+    QCOMPARE(fx.geometries(), before);
+}
+
+// ---- TMemoDlg ----
+
+void TestSmallDialogs::memoDialogEditsTheComboItems()
+{
+    TcxComboBox combo;
+    combo.setItems({QStringLiteral("rot"), QStringLiteral("grün")});
+    TMemoDlg dlg;
+    QCOMPARE(dlg.windowTitle(), QStringLiteral("PullDownliste editieren"));
+    dlg.setComboBox(&combo);
+    dlg.show();
+    auto *memo = child<QPlainTextEdit>(&dlg, "Memo1");
+    QCOMPARE(memo->toPlainText(), QStringLiteral("rot\ngrün"));
+
+    // A new line typed at the end, closed with a line break.
+    memo->moveCursor(QTextCursor::End);
+    QTest::keyClick(memo, Qt::Key_Return);
+    QTest::keyClicks(memo, QStringLiteral("blau"));
+    QTest::keyClick(memo, Qt::Key_Return);
+    QVERIFY(dlg.isVisible()); // Enter belongs to the memo
+    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
+    QCOMPARE(dlg.result(), int(QDialog::Accepted));
+    QCOMPARE(combo.Items(), (QStringList{QStringLiteral("rot"), QStringLiteral("grün"), QStringLiteral("blau")}));
+
+    // The next use shows the list as it is now; emptied, the list is empty.
+    combo.setItems({QStringLiteral("eins")});
+    dlg.show();
+    QCOMPARE(memo->toPlainText(), QStringLiteral("eins"));
+    memo->selectAll();
+    QTest::keyClick(memo, Qt::Key_Delete);
+    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
+    QCOMPARE(combo.Items(), QStringList());
+}
+
+void TestSmallDialogs::memoDialogCancelKeepsTheItems()
+{
+    TcxComboBox combo;
+    combo.setItems({QStringLiteral("A"), QStringLiteral("B")});
+    TMemoDlg dlg;
+    dlg.setComboBox(&combo);
+    dlg.show();
+    auto *memo = child<QPlainTextEdit>(&dlg, "Memo1");
+    memo->selectAll();
+    QTest::keyClicks(memo, QStringLiteral("X"));
+    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&Abbrechen")), Qt::LeftButton);
+    QCOMPARE(dlg.result(), int(QDialog::Rejected));
+    QCOMPARE(combo.Items(), (QStringList{QStringLiteral("A"), QStringLiteral("B")}));
+}
+
+void TestSmallDialogs::memoDialogWithoutComboUsesTheHint()
+{
+    TcxComboBox combo;
+    combo.setItems({QStringLiteral("bleibt")});
+    TMemoDlg dlg;
+    dlg.setComboBox(&combo);
+    dlg.setComboBox(nullptr);
+    dlg.setMemoHint(QStringLiteral("Zeile 1\nZeile 2"));
+    dlg.show();
+    auto *memo = child<QPlainTextEdit>(&dlg, "Memo1");
+    QCOMPARE(memo->toPlainText(), QStringLiteral("Zeile 1\nZeile 2"));
+    QCOMPARE(memo->toolTip(), QStringLiteral("Zeile 1\nZeile 2"));
+
+    memo->moveCursor(QTextCursor::End);
+    QTest::keyClicks(memo, QStringLiteral("!"));
+    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
+    QCOMPARE(dlg.memoHint(), QStringLiteral("Zeile 1\nZeile 2!"));
+    QCOMPARE(combo.Items(), QStringList{QStringLiteral("bleibt")});
+
+    // Cancel leaves the hint alone.
+    dlg.show();
+    QTest::keyClicks(memo, QStringLiteral("?"));
+    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&Abbrechen")), Qt::LeftButton);
+    QCOMPARE(dlg.memoHint(), QStringLiteral("Zeile 1\nZeile 2!"));
+}
+
+QTEST_MAIN(TestSmallDialogs)
+#include "test_smalldialogs.moc"

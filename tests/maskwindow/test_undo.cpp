@@ -1,0 +1,280 @@
+// The undo history of mask designs: the order in which snapshots come back,
+// and that the design really returns to the saved state, both for whole-form
+// and for component-by-component snapshots.
+#include <QtEndian>
+#include <QtTest>
+
+#include "../designer/helper_designform.h"
+#include "UndoRedo.h"
+
+class TestUndo : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void freshHistoryRestoresNothing();
+    void undoWalksBackAndRedoStopsAtTheEnd();
+    void saveAfterUndoKeepsTheUndoneSnapshots();
+    void undoBringsBackDeletedControlsWithoutDuplicates();
+    void programHistoryRecordsThroughSaveUndo();
+    void componentSnapshotStartsWithTheOwnedCount();
+    void componentUndoAndRedoRestoreNestedControls();
+    void componentUndoOnFreshHistoryKeepsTheDesign();
+};
+
+namespace {
+
+QWidget *control(DesignForm &f, const QString &name)
+{
+    return qobject_cast<QWidget *>(Components::findComponent(&f.form, name));
+}
+
+// The controls directly on the surface, by name.
+QStringList topNames(DesignForm &f)
+{
+    QStringList out;
+    for (QWidget *w : f.surface->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+        if (TControl::from(w) && !w->objectName().isEmpty())
+            out << w->objectName();
+    out.sort();
+    return out;
+}
+
+int xOf(DesignForm &f, const QString &name)
+{
+    QWidget *w = control(f, name);
+    return w ? w->x() : -1;
+}
+
+} // namespace
+
+void TestUndo::freshHistoryRestoresNothing()
+{
+    DesignForm f;
+    auto *btn = f.add<TMaskBtn>(nullptr, {10, 10, 80, 25});
+    const QString name = btn->objectName();
+    f.designer->setActive(true);
+
+    TUndoStream history;
+    QCOMPARE(history.positions(), (QList<qint64>{0}));
+    QCOMPARE(history.current(), 0);
+
+    // Index 0 exists from the start and is "loaded", but nothing was ever
+    // saved: the design stays as it is (no clearing of the mask).
+    QVERIFY(history.Undo(f.designer));
+    QCOMPARE(history.current(), -1);
+    QCOMPARE(topNames(f), QStringList{name});
+    QCOMPARE(xOf(f, name), 10);
+
+    QVERIFY(!history.Undo(f.designer));
+    QCOMPARE(history.current(), 0);
+
+    QVERIFY(!history.Redo(f.designer));
+    QCOMPARE(history.current(), 0);
+    QCOMPARE(topNames(f), QStringList{name});
+}
+
+void TestUndo::undoWalksBackAndRedoStopsAtTheEnd()
+{
+    DesignForm f;
+    const QString name = f.add<TMaskBtn>(nullptr, {10, 10, 80, 25})->objectName();
+    f.designer->setActive(true);
+    TUndoStream history;
+
+    history.SaveUndo(f.designer);             // snapshot 1: x 10
+    control(f, name)->move(50, 10);
+    history.SaveUndo(f.designer);             // snapshot 2: x 50
+    control(f, name)->move(90, 10);
+
+    QCOMPARE(history.positions().size(), 3);
+    QCOMPARE(history.positions().at(0), 0);
+    QCOMPARE(history.positions().at(1), 0);
+    QVERIFY(history.positions().at(2) > 0);
+    QCOMPARE(history.current(), 2);
+
+    // The last saved state first, then the first snapshot twice.
+    QVERIFY(history.Undo(f.designer));
+    QCOMPARE(xOf(f, name), 50);
+    QCOMPARE(history.current(), 1);
+    QVERIFY(history.Undo(f.designer));
+    QCOMPARE(xOf(f, name), 10);
+    QCOMPARE(history.current(), 0);
+    control(f, name)->move(33, 10);
+    QVERIFY(history.Undo(f.designer));
+    QCOMPARE(xOf(f, name), 10);
+    QCOMPARE(history.current(), -1);
+    QVERIFY(!history.Undo(f.designer));
+    QCOMPARE(history.current(), 0);
+    // Loading one snapshot never brings in the later ones as well.
+    QCOMPARE(topNames(f), QStringList{name});
+
+    QVERIFY(history.Redo(f.designer));
+    QCOMPARE(history.current(), 1);
+    QCOMPARE(xOf(f, name), 10);
+    QVERIFY(history.Redo(f.designer));
+    QCOMPARE(history.current(), 2);
+    QCOMPARE(xOf(f, name), 50);
+    QVERIFY(!history.Redo(f.designer));
+    QCOMPARE(history.current(), 2);
+    QCOMPARE(xOf(f, name), 50);
+    QCOMPARE(topNames(f), QStringList{name});
+}
+
+void TestUndo::saveAfterUndoKeepsTheUndoneSnapshots()
+{
+    DesignForm f;
+    const QString name = f.add<TMaskBtn>(nullptr, {10, 10, 80, 25})->objectName();
+    f.designer->setActive(true);
+    TUndoStream history;
+
+    history.SaveUndo(f.designer); // A: 10
+    control(f, name)->move(50, 10);
+    history.SaveUndo(f.designer); // B: 50
+    QVERIFY(history.Undo(f.designer));
+    QVERIFY(history.Undo(f.designer));
+    QCOMPARE(xOf(f, name), 10);
+
+    control(f, name)->move(70, 10);
+    history.SaveUndo(f.designer); // C: 70, appended behind B
+    QCOMPARE(history.positions().size(), 4);
+    QCOMPARE(history.current(), 3);
+
+    const QList<int> expected{70, 50, 10, 10};
+    for (int x : expected) {
+        QVERIFY(history.Undo(f.designer));
+        QCOMPARE(xOf(f, name), x);
+    }
+    QVERIFY(!history.Undo(f.designer));
+}
+
+void TestUndo::undoBringsBackDeletedControlsWithoutDuplicates()
+{
+    DesignForm f;
+    auto *a = f.add<TMaskBtn>(nullptr, {10, 10, 80, 25});
+    auto *panel = f.add<TPanel>(nullptr, {200, 50, 200, 150});
+    auto *inner = f.add<TMaskBtn>(panel, {5, 5, 60, 20});
+    const QString aName = a->objectName(), panelName = panel->objectName(), innerName = inner->objectName();
+    f.designer->setActive(true);
+    TUndoStream history;
+
+    history.SaveUndo(f.designer);
+    delete panel;
+    a->setBounds(300, 300, 40, 40);
+    QCOMPARE(topNames(f), QStringList{aName});
+
+    QVERIFY(history.Undo(f.designer));
+    QCOMPARE(topNames(f), (QStringList{aName, panelName}));
+    QCOMPARE(control(f, aName)->geometry(), QRect(10, 10, 80, 25));
+    QCOMPARE(control(f, panelName)->geometry(), QRect(200, 50, 200, 150));
+    QWidget *innerBack = control(f, innerName);
+    QVERIFY(innerBack);
+    QCOMPARE(innerBack->parentWidget(), control(f, panelName));
+    QCOMPARE(innerBack->geometry(), QRect(5, 5, 60, 20));
+    QVERIFY(innerBack->isVisibleTo(&f.form));
+}
+
+void TestUndo::programHistoryRecordsThroughSaveUndo()
+{
+    DesignForm f;
+    const QString name = f.add<TMaskBtn>(nullptr, {10, 10, 80, 25})->objectName();
+    f.designer->setActive(true);
+    TUndoStream &history = TUndoStream::instance();
+    QCOMPARE(&history, &TUndoStream::instance());
+    const qsizetype before = history.positions().size();
+
+    SaveUndo(f.designer);
+    QCOMPARE(history.positions().size(), before + 1);
+    QCOMPARE(history.current(), int(before));
+    control(f, name)->move(120, 10);
+    QVERIFY(history.Undo(f.designer));
+    QCOMPARE(xOf(f, name), 10);
+}
+
+void TestUndo::componentSnapshotStartsWithTheOwnedCount()
+{
+    DesignForm f;
+    Components::setOwner(f.designer, &f.form);
+    auto *styles = new QObject(&f.form); // owned, but no control: counted, not written
+    Components::setOwner(styles, &f.form);
+    f.add<TMaskBtn>(nullptr, {10, 10, 80, 25});
+    f.designer->setActive(true);
+    TUndoStream history;
+
+    history.SaveUndoComponents(f.designer);
+    QCOMPARE(history.positions(), (QList<qint64>{0, 0}));
+    QCOMPARE(history.current(), 1);
+    const QByteArray bytes = history.data();
+    QVERIFY(bytes.size() > 8);
+    QCOMPARE(qFromLittleEndian<quint32>(bytes.constData()), quint32(3));
+    QCOMPARE(bytes.mid(4, 4), QByteArray("TPF0"));
+    // One control, one component stream.
+    QCOMPARE(bytes.count("TPF0"), 1);
+}
+
+void TestUndo::componentUndoAndRedoRestoreNestedControls()
+{
+    DesignForm f;
+    Components::setOwner(f.designer, &f.form);
+    auto *a = f.add<TMaskBtn>(nullptr, {10, 10, 80, 25});
+    auto *panel = f.add<TPanel>(nullptr, {200, 50, 200, 150});
+    auto *inner = f.add<TMaskBtn>(panel, {5, 5, 60, 20});
+    const QString aName = a->objectName(), panelName = panel->objectName(), innerName = inner->objectName();
+    f.designer->setActive(true);
+    TUndoStream history;
+
+    history.SaveUndoComponents(f.designer); // 1: a at 10
+    a->move(60, 10);
+    history.SaveUndoComponents(f.designer); // 2: a at 60
+    delete panel;
+    a->move(400, 300);
+
+    QVERIFY(history.UndoComponents(f.designer));
+    QCOMPARE(history.current(), 1);
+    QCOMPARE(topNames(f), (QStringList{aName, panelName}));
+    QCOMPARE(xOf(f, aName), 60);
+    QWidget *innerBack = control(f, innerName);
+    QVERIFY(innerBack);
+    QCOMPARE(innerBack->parentWidget(), control(f, panelName));
+    QCOMPARE(innerBack->geometry(), QRect(5, 5, 60, 20));
+    QVERIFY(control(f, aName)->isVisibleTo(&f.form));
+    // The panel's child came back inside the panel, and only there.
+    QCOMPARE(f.surface->findChildren<TMaskBtn *>().size(), 2);
+
+    QVERIFY(history.UndoComponents(f.designer));
+    QCOMPARE(xOf(f, aName), 10);
+
+    // Redo reads one component more than undo; the snapshot just ends there.
+    QVERIFY(history.RedoComponents(f.designer));
+    QCOMPARE(history.current(), 1);
+    QCOMPARE(xOf(f, aName), 10);
+    QVERIFY(history.RedoComponents(f.designer));
+    QCOMPARE(history.current(), 2);
+    QCOMPARE(xOf(f, aName), 60);
+    QCOMPARE(topNames(f), (QStringList{aName, panelName}));
+    QCOMPARE(f.surface->findChildren<TMaskBtn *>().size(), 2);
+    QVERIFY(!history.RedoComponents(f.designer));
+    QCOMPARE(history.current(), 2);
+    // The restored controls are designable again.
+    f.designer->AddControl(control(f, aName));
+    QCOMPARE(f.designer->ControlCount(), 1);
+}
+
+void TestUndo::componentUndoOnFreshHistoryKeepsTheDesign()
+{
+    DesignForm f;
+    const QString name = f.add<TMaskBtn>(nullptr, {10, 10, 80, 25})->objectName();
+    f.designer->setActive(true);
+    TUndoStream history;
+
+    QVERIFY(history.UndoComponents(f.designer));
+    QCOMPARE(history.current(), -1);
+    QCOMPARE(topNames(f), QStringList{name});
+    QVERIFY(!history.UndoComponents(f.designer));
+    QCOMPARE(history.current(), 0);
+    QVERIFY(!history.RedoComponents(f.designer));
+    QCOMPARE(history.current(), 0);
+    QCOMPARE(topNames(f), QStringList{name});
+}
+
+QTEST_MAIN(TestUndo)
+#include "test_undo.moc"
