@@ -42,8 +42,10 @@ void TCustomFormDesigner::UpdateGrabs()
     QWidget *current = currentControl();
     const bool show = m_controls.size() == 1 && current && !IsProtected(current);
     m_grabs->Update(show ? current : nullptr, !show);
-    if (m_overlay)
+    if (m_overlay) {
+        m_overlay->raise(); // stays above a control brought to the front
         m_overlay->update();
+    }
 }
 
 // ---- TGrabHandle ----

@@ -47,6 +47,7 @@ TMainForm::TMainForm(const QStringList &arguments, QWidget *parent)
     createMenus();
     createClientArea();
     createToolBars();
+    createDesignTools();
     FormCreate();
 }
 

@@ -8,6 +8,9 @@
 #include <QPointer>
 #include <QStringList>
 
+#include "EditStyle.h"
+#include "MaskHost.h"
+#include "Types.h"
 #include "UserDialogs.h"
 
 class QAction;
@@ -21,10 +24,16 @@ class QSpinBox;
 class QToolBar;
 class QToolButton;
 class TMaske;
+class TFormDesigner;
+class TfrmSetup;
+class TFormAlignment;
+class TObjInsp;
+class TMemoDlg;
+class TcxEditStyleController;
 
 // The main window: menus, tool bars, the tab strip and the MDI area holding
 // the mask windows.
-class TMainForm : public QMainWindow
+class TMainForm : public QMainWindow, public TMaskHost
 {
     Q_OBJECT
 public:
@@ -63,6 +72,39 @@ public:
     QString BaseFolder() const;
 
     TMaske *OpenMaskWindow(const QString &fileName);
+
+    // The main window's own engine, which carries the settings between masks.
+    TFormDesigner *FormDesigner1() const { return m_formDesigner1; }
+    TfrmSetup *frmSetup() const { return m_frmSetup; }
+    TFormAlignment *FormAlignment() const { return m_formAlignment; }
+    TObjInsp *ObjInsp() const { return m_objInsp; }
+    QMenu *PopupMenu1() const { return m_popupMenu1; }
+    TcxEditStyleController *currentStyleController() const { return m_currentStyleController; }
+
+    // TMaskHost: what the mask windows ask of the main window.
+    int ArmedTool() const override { return m_armedTool; }
+    void placementDone(TMaske *mask) override;
+    void placementRefused(TMaske *mask) override;
+    void WriteFontStates(QWidget *control) override;
+    bool lastFont(TFont &font) const override;
+    void FormDesigner1SelectControl(TMaske *mask, QWidget *control) override;
+    void setPositionFields(int top, int height, int left, int width) override;
+    void applyDesignerSettings(TCustomFormDesigner *designer) override;
+    void maskActivated(TMaske *mask, TcxEditStyleController *styleController) override;
+    void UpdateComponents() override;
+    void showObjectInspector() override;
+    void maskClosed(TMaske *mask) override;
+    void PasteItemClick() override;
+    void CopyItemClick() override;
+    void CutItemClick() override;
+    void Lschen1Click() override;
+
+    void ToolButtonsClick(QAction *button);
+    void ReadStates();
+    void UpdateBtn();
+    void dxBarLockClick(bool fromLockButton);
+    void PopItemsClick(int tag);
+    void SettingsItemClick();
     void LoadMask(const QString &fileName);
     bool SaveMask(const QString &fileName);
     void UpdateMenuItems();
@@ -71,7 +113,7 @@ public Q_SLOTS:
     void FileNewItemClick();
     void FileOpenItemClick();
     void FileCloseItemClick();
-    void FileSaveItemClick();
+    void FileSaveItemClick() override;
     void FileSaveAsItemClick();
     void FileExitItemClick();
     void WindowCascadeItemClick();
@@ -103,6 +145,13 @@ private:
     void createElementsBar();
     void createStatusBar();
     void createModifyBar();
+
+    // MainFormDesign.cpp
+    void createDesignTools();
+    void positionSpinChange(QSpinBox *spin);
+    void tabOrderSpinChange();
+    void fontToolChange();
+    TFormDesigner *activeDesigner() const;
 
     // MainFormWindows.cpp
     void createClientArea();
@@ -159,6 +208,20 @@ private:
     QList<QAction *> m_windowListActions;
 
     QActionGroup *m_paletteGroup = nullptr;
+    // Design state: the armed palette tool, the engine held for placing,
+    // the reading flag of the tool bars and the font they last wrote.
+    quint8 m_armedTool = 0;
+    QPointer<QAction> m_armedButton;
+    QPointer<TFormDesigner> m_heldDesigner;
+    bool m_readingStates = false;
+    bool m_hasLastFont = false;
+    TFont m_lastFont;
+    TFormDesigner *m_formDesigner1 = nullptr;
+    TfrmSetup *m_frmSetup = nullptr;
+    TFormAlignment *m_formAlignment = nullptr;
+    TObjInsp *m_objInsp = nullptr;
+    QPointer<QMenu> m_popupMenu1;
+    QPointer<TcxEditStyleController> m_currentStyleController;
 
     QPointer<QFontComboBox> dxBarFontNameCombo1;
     QPointer<QComboBox> dxBarFontSize1;

@@ -54,7 +54,9 @@ void TMainForm::createActions()
     LockItem = makeAction(this, "LockItem", QStringLiteral("Sperren"), commandIcon(Command::Lock));
     UndoItem = makeAction(this, "UndoItem", QStringLiteral("Rückgängig"), commandIcon(Command::Undo));
     RedoItem = makeAction(this, "RedoItem", QStringLiteral("Wiederholen"), commandIcon(Command::Redo));
-    for (QAction *item : {CutItem, CopyItem, PasteItem, DeleteItem, LockItem, UndoItem, RedoItem})
+    // Undo and Redo are there and deliberately do nothing: the history is
+    // recorded, but loading a snapshot back is not offered.
+    for (QAction *item : {CutItem, CopyItem, PasteItem, DeleteItem, LockItem})
         item->setEnabled(false);
 
     ObjectInspectorItem = makeAction(this, "ObjectInspectorItem", QStringLiteral("&Objekt Inspektor"),
@@ -63,7 +65,7 @@ void TMainForm::createActions()
                               commandIcon(Command::Settings));
     EditModeItem = makeAction(this, "EditModeItem", QStringLiteral("&Bearbeitungsmodus"));
     RunModeItem = makeAction(this, "RunModeItem", QStringLiteral("&Run Mode"));
-    for (QAction *item : {ObjectInspectorItem, SettingsItem, EditModeItem, RunModeItem})
+    for (QAction *item : {ObjectInspectorItem, EditModeItem, RunModeItem})
         item->setEnabled(false);
 
     WindowCascadeItem = makeAction(this, "WindowCascadeItem", QStringLiteral("&Überlappen"),

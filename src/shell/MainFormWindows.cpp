@@ -2,6 +2,7 @@
 #include "MainForm.h"
 
 #include "Colors.h"
+#include "FormDesigner.h"
 #include "Maske.h"
 #include "PaletteIcons.h"
 
@@ -44,9 +45,11 @@ void TMainForm::createClientArea()
     layout->addWidget(m_mdiArea, 1);
     setCentralWidget(client);
 
-    connect(m_mdiArea, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow *) {
+    connect(m_mdiArea, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow *window) {
         syncWindowLists();
         UpdateMenuItems();
+        if (auto *mask = qobject_cast<TMaske *>(window))
+            mask->FormActivate();
     });
     // A press on a tab activates its window even when that tab is current already.
     connect(m_tabSet, &QTabBar::tabBarClicked, this, &TMainForm::activateWindowAt);
@@ -56,8 +59,12 @@ void TMainForm::createClientArea()
 TMaske *TMainForm::OpenMaskWindow(const QString &fileName)
 {
     auto *mask = new TMaske;
+    mask->setHost(this);
+    mask->FormDesigner2()->setPopupMenu(m_popupMenu1);
     mask->setWindowTitle(QFileInfo(fileName).fileName());
+    mask->setTitel(QFileInfo(fileName).fileName());
     mask->setPath(fileName);
+    mask->FormDesigner2()->setActive(true);
     mask->setWindowIcon(PaletteIcons::maskIcon());
     m_mdiArea->addSubWindow(mask);
     watchMaskWindow(mask);

@@ -1,0 +1,414 @@
+#include "ObjectInspector.h"
+
+#include "Components.h"
+#include "Containers.h"
+#include "Control.h"
+#include "FormDesigner.h"
+#include "Maske.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QFrame>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+#include <QVBoxLayout>
+
+namespace {
+
+// The mask's own parts that the user never edits through the inspector.
+bool isHiddenComponent(const QObject *c)
+{
+    static const QStringList names = {
+        QStringLiteral("FormPanel"), QStringLiteral("ScrollBox1"), QStringLiteral("DataSource1"),
+        QStringLiteral("Table1"), QStringLiteral("AdvOfficePagerOfficeStyler1"), QStringLiteral("FormDesigner2"),
+        QStringLiteral("cxStyleController")};
+    if (names.contains(c->objectName()))
+        return true;
+    return QLatin1String(c->metaObject()->className()) == QLatin1String("TabSheet");
+}
+
+QString entryText(QObject *c)
+{
+    const QString name = c->objectName();
+    QString caption;
+    if (const TControl *ctl = TControl::from(c))
+        caption = ctl->Caption().trimmed();
+    if (caption.isEmpty() || caption == name)
+        return name;
+    return name + QStringLiteral(" – ") + caption;
+}
+
+QString classNameOf(const QWidget *w)
+{
+    if (const TControl *c = TControl::from(w))
+        return c->classInfo().className;
+    return QString::fromLatin1(w->metaObject()->className());
+}
+
+} // namespace
+
+TObjInsp::TObjInsp(QWidget *parent)
+    : QWidget(parent, Qt::Tool)
+{
+    setObjectName(QStringLiteral("ObjInsp"));
+    setWindowTitle(QStringLiteral("Objekt Inspektor"));
+    resize(260, 560);
+    setMinimumWidth(220);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->setSpacing(4);
+
+    // The tool bar holds the component list: a button that drops down the
+    // tree of the mask's controls.
+    auto *bar = new QToolBar(this);
+    bar->setObjectName(QStringLiteral("dxBarManager1Bar"));
+    bar->setMovable(false);
+    m_treeButton = new QToolButton(bar);
+    m_treeButton->setObjectName(QStringLiteral("dxBarTreeViewButton"));
+    m_treeButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    m_treeButton->setText(QStringLiteral("(kein Element)"));
+    m_treeButton->setToolTip(QStringLiteral("Element der Maske auswählen"));
+    m_treeButton->setArrowType(Qt::NoArrow);
+    m_treeButton->setPopupMode(QToolButton::DelayedPopup);
+    m_treeButton->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    bar->addWidget(m_treeButton);
+    layout->addWidget(bar);
+
+    m_treePopup = new QFrame(this, Qt::Popup);
+    m_treePopup->setObjectName(QStringLiteral("dxBarTreeViewPopup"));
+    m_treePopup->setFrameShape(QFrame::StyledPanel);
+    auto *popupLayout = new QVBoxLayout(m_treePopup);
+    popupLayout->setContentsMargins(1, 1, 1, 1);
+    m_tree = new QTreeWidget(m_treePopup);
+    m_tree->setObjectName(QStringLiteral("dxBarTreeView"));
+    m_tree->setHeaderHidden(true);
+    m_tree->setColumnCount(1);
+    m_tree->setRootIsDecorated(true);
+    popupLayout->addWidget(m_tree);
+    connect(m_treeButton, &QToolButton::clicked, this, &TObjInsp::showTreePopup);
+    connect(m_tree, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem *item) { dxBarTreeViewChange(item); });
+    connect(m_tree, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem *item) { dxBarTreeViewChange(item); });
+
+    m_header = new QLabel(this);
+    m_header->setObjectName(QStringLiteral("HeaderLabel"));
+    QFont bold = m_header->font();
+    bold.setBold(true);
+    m_header->setFont(bold);
+    m_header->setContentsMargins(2, 0, 2, 0);
+    layout->addWidget(m_header);
+
+    m_notebook = new QStackedWidget(this);
+    m_notebook->setObjectName(QStringLiteral("Notebook1"));
+    layout->addWidget(m_notebook, 1);
+
+    // Page 0 first; every class page after it in the fixed page order.
+    QFormLayout *def = newPage(QStringLiteral("Default"));
+    auto *hint = new QLabel(QStringLiteral("Kein oder mehrere Elemente ausgewählt."));
+    hint->setObjectName(QStringLiteral("DefaultHint"));
+    hint->setWordWrap(true);
+    hint->setAlignment(Qt::AlignCenter);
+    def->addRow(hint);
+
+    buildLabelPages();  // "TLabel", "TDBLabel"
+    buildEditPages();   // "TcxTextEdit" .. "TcxDBCheckBox"
+    buildButtonPage();  // "TMaskBtn"
+    buildGraphicPages(); // "TBevel" .. "TImageAspect"
+    buildContainerPages(); // "TAdvOfficePager" .. "TStringGrid"
+    Q_ASSERT(m_notebook->count() == pageCaptions().size());
+
+    m_notebook->setCurrentIndex(0);
+    m_header->setText(QString());
+}
+
+TObjInsp::~TObjInsp() = default;
+
+const QStringList &TObjInsp::pageCaptions()
+{
+    static const QStringList captions = {
+        QStringLiteral("Default"),        QStringLiteral("TLabel"),          QStringLiteral("TDBLabel"),
+        QStringLiteral("TcxTextEdit"),    QStringLiteral("TcxComboBox"),     QStringLiteral("TcxMemo"),
+        QStringLiteral("TcxDBCheckBox"),  QStringLiteral("TMaskBtn"),        QStringLiteral("TBevel"),
+        QStringLiteral("TDBGrid"),        QStringLiteral("TShape"),          QStringLiteral("TcxDBPopupEdit"),
+        QStringLiteral("TImageAspect"),   QStringLiteral("TAdvOfficePager"), QStringLiteral("TAdvOfficePage"),
+        QStringLiteral("TDBRadioGroup"),  QStringLiteral("TPanel"),          QStringLiteral("TcxDBTreeList"),
+        QStringLiteral("TStringGrid")};
+    return captions;
+}
+
+QString TObjInsp::currentPageCaption() const
+{
+    const QWidget *page = m_notebook->currentWidget();
+    return page ? page->property("pageCaption").toString() : QString();
+}
+
+// ---- the mask and its component list ----
+
+void TObjInsp::setActiveMask(TMaske *mask)
+{
+    m_mask = mask;
+    UpdateComponents();
+    selectPage();
+}
+
+void TObjInsp::UpdateComponents()
+{
+    // Rebuilding must not count as the user choosing an entry.
+    const QSignalBlocker blocker(m_tree);
+    m_tree->clear();
+    if (m_mask) {
+        QHash<QObject *, QTreeWidgetItem *> items;
+        QList<QObject *> pages;
+        for (QObject *c : Components::components(m_mask)) {
+            if (!c->isWidgetType() || isHiddenComponent(c))
+                continue;
+            if (qobject_cast<TAdvOfficePage *>(c)) {
+                pages << c; // below their page control, once every pager has its entry
+                continue;
+            }
+            auto *item = new QTreeWidgetItem(m_tree, {entryText(c)});
+            item->setData(0, Qt::UserRole, QVariant::fromValue(c));
+            items.insert(c, item);
+        }
+        for (QObject *c : pages) {
+            QTreeWidgetItem *pagerItem = items.value(static_cast<TAdvOfficePage *>(c)->AdvOfficePager());
+            auto *item = pagerItem ? new QTreeWidgetItem(pagerItem, {entryText(c)})
+                                   : new QTreeWidgetItem(m_tree, {entryText(c)});
+            item->setData(0, Qt::UserRole, QVariant::fromValue(c));
+        }
+        m_tree->expandAll();
+    }
+    syncTreeToControl();
+}
+
+void TObjInsp::showTreePopup()
+{
+    const int width = qMax(m_treeButton->width(), 220);
+    m_treePopup->resize(width, 300);
+    m_treePopup->move(m_treeButton->mapToGlobal(QPoint(0, m_treeButton->height())));
+    m_treePopup->show();
+    m_tree->setFocus();
+}
+
+void TObjInsp::dxBarTreeViewChange(QTreeWidgetItem *item)
+{
+    m_treePopup->hide();
+    if (!item || !m_mask)
+        return;
+    QObject *c = item->data(0, Qt::UserRole).value<QObject *>();
+    // The entry may outlive its control when the list was not rebuilt yet.
+    if (!c || !Components::components(m_mask).contains(c) || !c->isWidgetType())
+        return;
+    TFormDesigner *designer = m_mask->FormDesigner2();
+    designer->ClearControls();
+    designer->AddControl(static_cast<QWidget *>(c));
+    selectPage();
+}
+
+void TObjInsp::selectControl(QWidget * /*control*/)
+{
+    // The designer's selection is the truth; the argument only says it changed.
+    selectPage();
+}
+
+void TObjInsp::syncTreeToControl()
+{
+    QString text = QStringLiteral("(kein Element)");
+    const QSignalBlocker blocker(m_tree);
+    m_tree->setCurrentItem(nullptr);
+    if (m_current) {
+        for (QTreeWidgetItemIterator it(m_tree); *it; ++it) {
+            if ((*it)->data(0, Qt::UserRole).value<QObject *>() == m_current.data()) {
+                m_tree->setCurrentItem(*it);
+                text = (*it)->text(0);
+                break;
+            }
+        }
+    }
+    m_treeButton->setText(text);
+}
+
+void TObjInsp::selectPage()
+{
+    m_current = nullptr;
+    QList<QWidget *> selection;
+    if (m_mask)
+        selection = m_mask->FormDesigner2()->selection();
+    if (!selection.isEmpty())
+        m_current = selection.first();
+
+    int page = 0;
+    if (selection.size() == 1)
+        page = m_pageIndex.value(classNameOf(m_current), 0);
+    m_notebook->setCurrentIndex(page);
+    m_header->setText(selection.size() == 1 ? m_current->objectName() + QStringLiteral(": ") + classNameOf(m_current)
+                      : selection.size() > 1 ? QStringLiteral("%1 Elemente").arg(selection.size())
+                                             : QString());
+    syncTreeToControl();
+    if (page == 0)
+        return;
+
+    m_updating = true;
+    fillPage(pageCaptions().at(page));
+    m_updating = false;
+}
+
+void TObjInsp::fillPage(const QString &caption)
+{
+    using Fill = void (TObjInsp::*)(QWidget *);
+    static const QHash<QString, Fill> fills = {
+        {QStringLiteral("TLabel"), &TObjInsp::fillLabel},
+        {QStringLiteral("TDBLabel"), &TObjInsp::fillDBLabel},
+        {QStringLiteral("TcxTextEdit"), &TObjInsp::fillTextEdit},
+        {QStringLiteral("TcxComboBox"), &TObjInsp::fillComboBox},
+        {QStringLiteral("TcxMemo"), &TObjInsp::fillMemo},
+        {QStringLiteral("TcxDBCheckBox"), &TObjInsp::fillCheckBox},
+        {QStringLiteral("TMaskBtn"), &TObjInsp::fillMaskBtn},
+        {QStringLiteral("TBevel"), &TObjInsp::fillBevel},
+        {QStringLiteral("TDBGrid"), &TObjInsp::fillDBGrid},
+        {QStringLiteral("TShape"), &TObjInsp::fillShape},
+        {QStringLiteral("TcxDBPopupEdit"), &TObjInsp::fillPopupEdit},
+        {QStringLiteral("TImageAspect"), &TObjInsp::fillImage},
+        {QStringLiteral("TAdvOfficePager"), &TObjInsp::fillOfficePager},
+        {QStringLiteral("TAdvOfficePage"), &TObjInsp::fillOfficePage},
+        {QStringLiteral("TDBRadioGroup"), &TObjInsp::fillRadioGroup},
+        {QStringLiteral("TPanel"), &TObjInsp::fillPanel},
+        {QStringLiteral("TcxDBTreeList"), &TObjInsp::fillTreeList},
+        {QStringLiteral("TStringGrid"), &TObjInsp::fillStringGrid},
+    };
+    if (const Fill fill = fills.value(caption))
+        (this->*fill)(m_current);
+}
+
+void TObjInsp::markModified()
+{
+    if (m_mask)
+        m_mask->setModified(true);
+}
+
+// ---- form building ----
+
+QFormLayout *TObjInsp::newPage(const QString &caption)
+{
+    // Each page scrolls on its own, so a tall page never stretches the window.
+    auto *scroll = new QScrollArea;
+    scroll->setObjectName(QStringLiteral("Page_") + caption);
+    scroll->setProperty("pageCaption", caption);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *content = new QWidget;
+    auto *form = new QFormLayout(content);
+    form->setContentsMargins(6, 6, 6, 6);
+    form->setHorizontalSpacing(6);
+    form->setVerticalSpacing(5);
+    form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->setRowWrapPolicy(QFormLayout::DontWrapRows);
+    scroll->setWidget(content);
+    m_pageIndex.insert(caption, m_notebook->addWidget(scroll));
+    return form;
+}
+
+QLineEdit *TObjInsp::addLine(QFormLayout *form, const QString &label, const QString &name)
+{
+    auto *edit = new QLineEdit;
+    edit->setObjectName(name);
+    edit->setMinimumWidth(60);
+    form->addRow(label, edit);
+    return edit;
+}
+
+QComboBox *TObjInsp::addCombo(QFormLayout *form, const QString &label, const QString &name,
+                              const QStringList &items)
+{
+    auto *combo = new QComboBox;
+    combo->setObjectName(name);
+    combo->addItems(items);
+    // Long item texts must not widen the narrow tool window.
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(6);
+    if (label.isEmpty())
+        form->addRow(combo);
+    else
+        form->addRow(label, combo);
+    return combo;
+}
+
+QSpinBox *TObjInsp::addSpin(QFormLayout *form, const QString &label, const QString &name, int min, int max)
+{
+    auto *spin = new QSpinBox;
+    spin->setObjectName(name);
+    spin->setRange(min, max);
+    spin->setMaximumWidth(90);
+    form->addRow(label, spin);
+    return spin;
+}
+
+QCheckBox *TObjInsp::addCheck(QFormLayout *form, const QString &text, const QString &name)
+{
+    auto *check = new QCheckBox(text);
+    check->setObjectName(name);
+    form->addRow(QString(), check);
+    return check;
+}
+
+QPushButton *TObjInsp::addButton(QFormLayout *form, const QString &text, const QString &name)
+{
+    auto *button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    form->addRow(QString(), button);
+    return button;
+}
+
+void TObjInsp::bind(QWidget *editor, void (TObjInsp::*handler)())
+{
+    if (auto *e = qobject_cast<QLineEdit *>(editor))
+        connect(e, &QLineEdit::textChanged, this, handler);
+    else if (auto *c = qobject_cast<QComboBox *>(editor))
+        connect(c, qOverload<int>(&QComboBox::currentIndexChanged), this, handler);
+    else if (auto *s = qobject_cast<QSpinBox *>(editor))
+        connect(s, qOverload<int>(&QSpinBox::valueChanged), this, handler);
+    else if (auto *b = qobject_cast<QAbstractButton *>(editor))
+        connect(b, &QAbstractButton::toggled, this, handler);
+    else if (auto *m = qobject_cast<QPlainTextEdit *>(editor))
+        connect(m, &QPlainTextEdit::textChanged, this, handler);
+    else
+        Q_ASSERT_X(false, "TObjInsp::bind", "editor kind without a change signal");
+}
+
+const QStringList &TObjInsp::alignItems()
+{
+    static const QStringList items = {QStringLiteral("Keine"), QStringLiteral("Oben"),   QStringLiteral("Unten"),
+                                      QStringLiteral("Links"), QStringLiteral("Rechts"), QStringLiteral("Fenster")};
+    return items;
+}
+
+const QStringList &TObjInsp::fieldTypeItems()
+{
+    static const QStringList items = {QStringLiteral("Textfeld"), QStringLiteral("Zahl"),
+                                      QStringLiteral("Datum"),    QStringLiteral("Uhrzeit"),
+                                      QStringLiteral("Währung"),  QStringLiteral("Logisch"),
+                                      QStringLiteral("Memo"),     QStringLiteral("AutoInc")};
+    return items;
+}
+
+const QStringList &TObjInsp::charCaseItems()
+{
+    static const QStringList items = {QStringLiteral("Groß/Kleinschreibung"), QStringLiteral("Großbuchstaben"),
+                                      QStringLiteral("Kleinbuchstaben")};
+    return items;
+}

@@ -1,0 +1,574 @@
+// The object inspector as the user drives it: the component list, which page
+// shows for a selection, and what typing into the text and button pages does
+// to the control; the rule and check box dialogs.
+#include <QtTest>
+
+#include "CheckDialog.h"
+#include "Components.h"
+#include "Containers.h"
+#include "Edits.h"
+#include "FormDesigner.h"
+#include "Graphics.h"
+#include "Maske.h"
+#include "MyBtn.h"
+#include "ObjectInspector.h"
+#include "RuleDialog.h"
+#include "TestSupport.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QTreeWidget>
+
+namespace {
+
+// A shown mask in design mode with an inspector working on it.
+struct InspFixture
+{
+    ScriptedDialogs dialogs;
+    TMaske *mask = new TMaske;
+    TObjInsp insp;
+
+    InspFixture()
+    {
+        mask->resize(700, 500);
+        mask->show();
+        mask->FormDesigner2()->setActive(true);
+        insp.show();
+        insp.setActiveMask(mask);
+    }
+    ~InspFixture() { delete mask; }
+
+    template <class T>
+    T *add(QWidget *parent = nullptr, const QRect &r = QRect(10, 10, 120, 24))
+    {
+        auto *c = new T(parent ? parent : mask->designSurface());
+        Components::setOwner(c, mask);
+        AutoName(c, mask);
+        c->setBounds(r.x(), r.y(), r.width(), r.height());
+        c->show();
+        mask->FormDesigner2()->Update();
+        return c;
+    }
+
+    // The designer's selection changes; the main window tells the inspector.
+    void select(const QList<QWidget *> &controls)
+    {
+        TFormDesigner *d = mask->FormDesigner2();
+        d->ClearControls();
+        for (QWidget *c : controls)
+            d->AddControl(c);
+        insp.selectControl(controls.value(0));
+    }
+
+    template <class T>
+    T *editor(const QString &name) const
+    {
+        T *w = insp.findChild<T *>(name);
+        if (!w)
+            qFatal("no editor %s", qPrintable(name));
+        return w;
+    }
+};
+
+void retype(QWidget *edit, const QString &text)
+{
+    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+    if (text.isEmpty())
+        QTest::keyClick(edit, Qt::Key_Delete);
+    else
+        QTest::keyClicks(edit, text);
+}
+
+// Picks an item with the keyboard, as a user steps through a closed combo.
+void choose(QComboBox *combo, int index)
+{
+    QTest::keyClick(combo, Qt::Key_Home);
+    for (int i = 0; i < index; ++i)
+        QTest::keyClick(combo, Qt::Key_Down);
+    QCOMPARE(combo->currentIndex(), index);
+}
+
+void clickCheck(QAbstractButton *button)
+{
+    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
+}
+
+QStringList topLevelTexts(QTreeWidget *tree)
+{
+    QStringList out;
+    for (int i = 0; i < tree->topLevelItemCount(); ++i)
+        out << tree->topLevelItem(i)->text(0);
+    return out;
+}
+
+} // namespace
+
+class TestObjInsp : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void componentListAndChoosingAnEntry();
+    void pageFollowsTheSelection();
+    void fieldNamesAreTrimmedCaptionsAreNot();
+    void fillingShowsValuesWithoutWriting();
+    void labelPagesWriteEveryEditor();
+    void textTypeDisablesTheLength();
+    void buttonPageShowsEditorsOfTheAction_data();
+    void buttonPageShowsEditorsOfTheAction();
+    void buttonPageWritesAndPicksFiles();
+    void ruleDialogWritesOnlyOnOk();
+    void checkDialogReadsAndWritesTheOptionText();
+    void checkColorButtonRoundTrip();
+};
+
+void TestObjInsp::componentListAndChoosingAnEntry()
+{
+    InspFixture f;
+    auto *label = f.add<TLabel>();
+    label->setCaption(QStringLiteral("  Kunde:  "));
+    auto *edit = f.add<TcxTextEdit>(nullptr, QRect(10, 40, 120, 24));
+    auto *same = f.add<TLabel>(nullptr, QRect(10, 70, 120, 24));
+    same->setCaption(same->objectName());
+    auto *pager = f.add<TAdvOfficePager>(nullptr, QRect(200, 10, 300, 200));
+    TAdvOfficePage *page = f.mask->NewOPage(QStringLiteral("Adresse"));
+    pager->addPage(page);
+    f.insp.UpdateComponents();
+
+    QTreeWidget *tree = f.insp.dxBarTreeView();
+    const QStringList top = topLevelTexts(tree);
+    QCOMPARE(top, (QStringList{QStringLiteral("Label1 – Kunde:"), edit->objectName(), same->objectName(),
+                               pager->objectName()}));
+    QCOMPARE(tree->topLevelItem(3)->childCount(), 1);
+    QCOMPARE(tree->topLevelItem(3)->child(0)->text(0), page->objectName() + QStringLiteral(" – Adresse"));
+
+    // The user drops the list down and clicks the page entry.
+    QTest::mouseClick(f.insp.treeButton(), Qt::LeftButton);
+    QVERIFY(tree->isVisible());
+    QTreeWidgetItem *pageItem = tree->topLevelItem(3)->child(0);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(pageItem).center());
+    QVERIFY(!tree->isVisible());
+    QCOMPARE(f.mask->FormDesigner2()->selection(), (QList<QWidget *>{page}));
+    QCOMPARE(f.insp.currentControl(), page);
+    QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("TAdvOfficePage"));
+    QCOMPARE(f.editor<QLineEdit>(QStringLiteral("EditOfficePage"))->text(), QStringLiteral("Adresse"));
+    QCOMPARE(f.insp.treeButton()->text(), pageItem->text(0));
+
+    // Rebuilding keeps nothing of the old list; without a mask it is empty.
+    f.insp.UpdateComponents();
+    QCOMPARE(tree->topLevelItemCount(), 4);
+    f.insp.setActiveMask(nullptr);
+    QCOMPARE(tree->topLevelItemCount(), 0);
+    QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("Default"));
+}
+
+void TestObjInsp::pageFollowsTheSelection()
+{
+    InspFixture f;
+    QCOMPARE(f.insp.Notebook1()->count(), 19);
+    QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("Default"));
+    auto *label = f.add<TLabel>();
+    auto *dbLabel = f.add<TDBLabel>(nullptr, QRect(10, 40, 120, 24));
+    auto *lookup = f.add<TcxDBPopupEdit>(nullptr, QRect(10, 70, 120, 24));
+    auto *image = f.add<TImage>(nullptr, QRect(200, 10, 100, 100));
+
+    f.select({label});
+    QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("TLabel"));
+    // Derived classes have pages of their own.
+    f.select({dbLabel});
+    QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("TDBLabel"));
+    f.select({lookup});
+    QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("TcxDBPopupEdit"));
+    // Two selected: no page, though the first is the current control.
+    f.select({label, dbLabel});
+    QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("Default"));
+    QCOMPARE(f.insp.currentControl(), label);
+    // A class without a page, and nothing selected.
+    f.select({image});
+    QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("Default"));
+    f.select({});
+    QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("Default"));
+    QCOMPARE(f.insp.currentControl(), nullptr);
+}
+
+void TestObjInsp::fieldNamesAreTrimmedCaptionsAreNot()
+{
+    InspFixture f;
+    auto *edit = f.add<TcxTextEdit>();
+    auto *label = f.add<TLabel>(nullptr, QRect(10, 40, 120, 24));
+    auto *dbLabel = f.add<TDBLabel>(nullptr, QRect(10, 70, 120, 24));
+    auto *check = f.add<TcxDBCheckBox>(nullptr, QRect(10, 100, 120, 24));
+    auto *memo = f.add<TcxMemo>(nullptr, QRect(200, 10, 120, 60));
+    auto *combo = f.add<TcxComboBox>(nullptr, QRect(200, 100, 120, 24));
+
+    f.select({edit});
+    retype(f.editor<QLineEdit>(QStringLiteral("EditFieldName")), QStringLiteral(" KDNR "));
+    QCOMPARE(edit->Text(), QStringLiteral("KDNR"));
+
+    f.select({label});
+    retype(f.editor<QLineEdit>(QStringLiteral("LabelCaption")), QStringLiteral(" Kunde: "));
+    QCOMPARE(label->Caption(), QStringLiteral(" Kunde: "));
+
+    f.select({dbLabel});
+    retype(f.editor<QLineEdit>(QStringLiteral("DBLabelField")), QStringLiteral(" KDNR "));
+    QCOMPARE(dbLabel->DataField(), QStringLiteral("KDNR"));
+    QCOMPARE(dbLabel->Caption(), QStringLiteral("KDNR"));
+
+    f.select({check});
+    retype(f.editor<QLineEdit>(QStringLiteral("CheckFieldName")), QStringLiteral(" AKTIV "));
+    retype(f.editor<QLineEdit>(QStringLiteral("CheckCaption")), QStringLiteral(" aktiv "));
+    QCOMPARE(check->DataField(), QStringLiteral("AKTIV"));
+    QCOMPARE(check->Caption(), QStringLiteral(" aktiv "));
+
+    f.select({memo});
+    retype(f.editor<QLineEdit>(QStringLiteral("MemoFieldname")), QStringLiteral(" NOTIZ "));
+    QCOMPARE(memo->Text(), QStringLiteral("NOTIZ"));
+
+    f.select({combo});
+    retype(f.editor<QLineEdit>(QStringLiteral("ComboFieldName")), QStringLiteral(" ORT "));
+    QCOMPARE(combo->Text(), QStringLiteral("ORT"));
+}
+
+void TestObjInsp::fillingShowsValuesWithoutWriting()
+{
+    InspFixture f;
+    auto *edit = f.add<TcxTextEdit>();
+    edit->setText(QStringLiteral("PLZ"));
+    edit->setTag(0);
+    edit->setMaxLength(5);
+    edit->setTabStop(false);
+    edit->setCharCase(ecUpperCase);
+    edit->setHint(QStringLiteral("00000"));
+    edit->setHelpKeyword(QStringLiteral("Postleitzahl"));
+    auto *combo = f.add<TcxComboBox>(nullptr, QRect(10, 40, 120, 24));
+    combo->setText(QStringLiteral("ORT"));
+    combo->setTag(3);
+    combo->setMaxLength(30);
+    combo->setReadOnly(true);
+    combo->setHint(QStringLiteral("orte.txt"));
+
+    f.select({edit});
+    QCOMPARE(f.editor<QLineEdit>(QStringLiteral("EditFieldName"))->text(), QStringLiteral("PLZ"));
+    QCOMPARE(f.editor<QSpinBox>(QStringLiteral("EditFieldSize"))->value(), 5);
+    QVERIFY(!f.editor<QCheckBox>(QStringLiteral("EditPflichtfeld"))->isChecked());
+    QCOMPARE(f.editor<QComboBox>(QStringLiteral("EditCharcase"))->currentIndex(), 1);
+    QCOMPARE(f.editor<QLineEdit>(QStringLiteral("EditMask"))->text(), QStringLiteral("00000"));
+    QCOMPARE(f.editor<QLineEdit>(QStringLiteral("EditFieldCaption"))->text(), QStringLiteral("Postleitzahl"));
+
+    // The type is filled after the length: had filling written, Tag 3 would
+    // have reached the edit's length, or the combo's values the edit.
+    f.select({combo});
+    QCOMPARE(f.editor<QComboBox>(QStringLiteral("ComboFieldTyp"))->currentIndex(), 3);
+    QVERIFY(!f.editor<QSpinBox>(QStringLiteral("ComboFieldSize"))->isEnabled());
+    QVERIFY(f.editor<QCheckBox>(QStringLiteral("ComboReadOnly"))->isChecked());
+    QCOMPARE(f.editor<QLineEdit>(QStringLiteral("ComboPullDownFile"))->text(), QStringLiteral("orte.txt"));
+    QCOMPARE(edit->Text(), QStringLiteral("PLZ"));
+    QCOMPARE(edit->MaxLength(), 5);
+    QCOMPARE(combo->Tag(), 3);
+    QVERIFY(!f.mask->Modified());
+    QVERIFY(!f.insp.isUpdating());
+
+    // One keystroke writes the whole page and marks the mask.
+    QTest::keyClicks(f.editor<QLineEdit>(QStringLiteral("ComboFieldName")), QStringLiteral("X"));
+    QCOMPARE(combo->Text(), QStringLiteral("ORTX"));
+    QCOMPARE(combo->MaxLength(), 30);
+    QVERIFY(combo->ReadOnly());
+    QVERIFY(f.mask->Modified());
+}
+
+void TestObjInsp::labelPagesWriteEveryEditor()
+{
+    InspFixture f;
+    auto *label = f.add<TLabel>();
+    auto *dbLabel = f.add<TDBLabel>(nullptr, QRect(10, 40, 120, 24));
+
+    f.select({label});
+    choose(f.editor<QComboBox>(QStringLiteral("LabelLayout")), 2);
+    choose(f.editor<QComboBox>(QStringLiteral("LabelAlignment")), 2);
+    clickCheck(f.editor<QRadioButton>(QStringLiteral("LabelWordWrap")));
+    QCOMPARE(label->Layout(), tlBottom);
+    QCOMPARE(label->Alignment(), taCenter);
+    QVERIFY(label->WordWrap());
+    QVERIFY(!label->AutoSize());
+    clickCheck(f.editor<QRadioButton>(QStringLiteral("LabelAutoSize")));
+    QVERIFY(!label->WordWrap());
+    QVERIFY(label->AutoSize());
+
+    f.select({dbLabel});
+    retype(f.editor<QLineEdit>(QStringLiteral("DBLabelTable")), QStringLiteral("KUNDEN"));
+    retype(f.editor<QSpinBox>(QStringLiteral("DBLabelSize")), QStringLiteral("40"));
+    choose(f.editor<QComboBox>(QStringLiteral("DBLabelAlignment")), 1);
+    clickCheck(f.editor<QCheckBox>(QStringLiteral("DBLabelWordWrap")));
+    clickCheck(f.editor<QCheckBox>(QStringLiteral("DBLabel_BrowserEdit")));
+    retype(f.editor<QLineEdit>(QStringLiteral("DBLabelCaption")), QStringLiteral("Kundenname"));
+    QCOMPARE(dbLabel->DataSource(), QStringLiteral("KUNDEN"));
+    QCOMPARE(dbLabel->Hint(), QStringLiteral("40"));
+    QCOMPARE(dbLabel->Alignment(), taRightJustify);
+    QVERIFY(dbLabel->WordWrap());
+    QVERIFY(!dbLabel->AutoSize());
+    QVERIFY(dbLabel->BrowserEdit());
+    QCOMPARE(dbLabel->HelpKeyword(), QStringLiteral("Kundenname"));
+    choose(f.editor<QComboBox>(QStringLiteral("DBLabelTyp")), 2);
+    QCOMPARE(dbLabel->Tag(), 2);
+    QVERIFY(!f.editor<QSpinBox>(QStringLiteral("DBLabelSize"))->isEnabled());
+}
+
+void TestObjInsp::textTypeDisablesTheLength()
+{
+    InspFixture f;
+    auto *edit = f.add<TcxTextEdit>();
+    auto *memo = f.add<TcxMemo>(nullptr, QRect(10, 40, 120, 60));
+    f.select({edit});
+    auto *size = f.editor<QSpinBox>(QStringLiteral("EditFieldSize"));
+    QVERIFY(size->isEnabled());
+    retype(size, QStringLiteral("12"));
+    choose(f.editor<QComboBox>(QStringLiteral("EditFieldTyp")), 1);
+    QVERIFY(!size->isEnabled());
+    QCOMPARE(edit->Tag(), 1);
+    QCOMPARE(edit->MaxLength(), 12);
+    choose(f.editor<QComboBox>(QStringLiteral("EditFieldTyp")), 0);
+    QVERIFY(size->isEnabled());
+    clickCheck(f.editor<QCheckBox>(QStringLiteral("EditPflichtfeld")));
+    clickCheck(f.editor<QCheckBox>(QStringLiteral("EditReadonly")));
+    choose(f.editor<QComboBox>(QStringLiteral("EditCharcase")), 2);
+    retype(f.editor<QLineEdit>(QStringLiteral("EditMask")), QStringLiteral("##.##"));
+    QCOMPARE(edit->TabStop(), false);
+    QVERIFY(edit->ReadOnly());
+    QCOMPARE(edit->CharCase(), ecLowerCase);
+    QCOMPARE(edit->Hint(), QStringLiteral("##.##"));
+
+    f.select({memo});
+    choose(f.editor<QComboBox>(QStringLiteral("MemoScrollbars")), 3);
+    clickCheck(f.editor<QCheckBox>(QStringLiteral("MemoPlaintext")));
+    QCOMPARE(memo->ScrollBars(), ssBoth);
+    QCOMPARE(memo->Tag(), 1);
+    clickCheck(f.editor<QCheckBox>(QStringLiteral("MemoPlaintext")));
+    QCOMPARE(memo->Tag(), 0);
+}
+
+void TestObjInsp::buttonPageShowsEditorsOfTheAction_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QStringList>("shown");
+    QTest::addColumn<QString>("sectionLabel");
+    const QStringList assign = {QStringLiteral("BtnZuweisMaske"), QStringLiteral("BtnZuweisFeld"),
+                                QStringLiteral("BtnZuweisFeldEx"), QStringLiteral("BtnIndexFeld")};
+    const QStringList program = {QStringLiteral("BtnZuweisMaske"), QStringLiteral("BtnProgExt"),
+                                 QStringLiteral("BtnSectionExt"), QStringLiteral("BtnRunAs")};
+    for (int kind : {0, 1, 2, 5})
+        QTest::addRow("kind %d", kind) << kind << QStringList() << QString();
+    QTest::newRow("assign") << 3 << assign << QString();
+    QTest::newRow("list") << 4 << (assign + QStringList{QStringLiteral("BtnZuweisRule")}) << QString();
+    QTest::newRow("program") << 6 << program << QStringLiteral("INI Sektion:");
+    for (int kind : {7, 8, 9})
+        QTest::addRow("kind %d", kind) << kind << QStringList{QStringLiteral("BtnSectionExt")}
+                                       << QStringLiteral("Sektion Erweiterung:");
+    QTest::newRow("ini") << 10 << QStringList{QStringLiteral("BtnSectionExt")} << QStringLiteral("Sektion:");
+    QTest::newRow("rule") << 11 << QStringList{QStringLiteral("BtnZuweisRule")} << QString();
+}
+
+void TestObjInsp::buttonPageShowsEditorsOfTheAction()
+{
+    QFETCH(int, kind);
+    QFETCH(QStringList, shown);
+    QFETCH(QString, sectionLabel);
+    InspFixture f;
+    auto *button = f.add<TMaskBtn>();
+    button->setTag(kind == 0 ? 11 : 0); // so that choosing the kind is a change
+    f.select({button});
+    choose(f.editor<QComboBox>(QStringLiteral("BtnAction")), kind);
+    QCOMPARE(button->Tag(), kind);
+
+    const QStringList optional = {QStringLiteral("BtnZuweisMaske"), QStringLiteral("BtnZuweisFeld"),
+                                  QStringLiteral("BtnZuweisFeldEx"), QStringLiteral("BtnIndexFeld"),
+                                  QStringLiteral("BtnProgExt"),      QStringLiteral("BtnSectionExt"),
+                                  QStringLiteral("BtnRunAs"),        QStringLiteral("BtnZuweisRule")};
+    for (const QString &name : optional)
+        QVERIFY2(f.editor<QWidget>(name)->isVisibleTo(&f.insp) == shown.contains(name), qPrintable(name));
+    for (const QString &name : {QStringLiteral("BtnCaption"), QStringLiteral("BtnLayout"),
+                                QStringLiteral("BtnMargin"), QStringLiteral("BtnAction")})
+        QVERIFY2(f.editor<QWidget>(name)->isVisibleTo(&f.insp), qPrintable(name));
+    if (!sectionLabel.isEmpty()) {
+        // The label belongs to the section editor's row.
+        const QList<QLabel *> labels = f.insp.findChildren<QLabel *>();
+        bool found = false;
+        for (QLabel *l : labels)
+            found = found || (l->buddy() == f.editor<QWidget>(QStringLiteral("BtnSectionExt")) &&
+                              l->text() == sectionLabel);
+        QVERIFY2(found, qPrintable(sectionLabel));
+    }
+    QCOMPARE(f.editor<QToolButton>(QStringLiteral("BtnZuweisMaskeBtn"))->isVisibleTo(&f.insp),
+             shown.contains(QStringLiteral("BtnZuweisMaske")));
+}
+
+void TestObjInsp::buttonPageWritesAndPicksFiles()
+{
+    InspFixture f;
+    auto *button = f.add<TMaskBtn>();
+    f.select({button});
+    retype(f.editor<QLineEdit>(QStringLiteral("BtnCaption")), QStringLiteral(" Suchen "));
+    choose(f.editor<QComboBox>(QStringLiteral("BtnLayout")), 2);
+    retype(f.editor<QSpinBox>(QStringLiteral("BtnMargin")), QStringLiteral("4"));
+    choose(f.editor<QComboBox>(QStringLiteral("BtnAction")), 3);
+    retype(f.editor<QLineEdit>(QStringLiteral("BtnZuweisFeld")), QStringLiteral("KDNR"));
+    retype(f.editor<QLineEdit>(QStringLiteral("BtnZuweisFeldEx")), QStringLiteral("KDNR2"));
+    retype(f.editor<QLineEdit>(QStringLiteral("BtnIndexFeld")), QStringLiteral("NR"));
+    QCOMPARE(button->Caption(), QStringLiteral(" Suchen "));
+    QCOMPARE(button->Layout(), blGlyphTop);
+    QCOMPARE(button->Margin(), 4);
+    QCOMPARE(button->ZuweisFeld(), QStringLiteral("KDNR"));
+    QCOMPARE(button->ZuweisFeldEx(), QStringLiteral("KDNR2"));
+    QCOMPARE(button->IndexFeld(), QStringLiteral("NR"));
+
+    f.dialogs.fileAnswers << QStringList{QStringLiteral("/masken/kunden.dbm")};
+    QTest::mouseClick(f.editor<QToolButton>(QStringLiteral("BtnZuweisMaskeBtn")), Qt::LeftButton);
+    QCOMPARE(f.dialogs.fileDialogs.size(), 1);
+    QCOMPARE(f.dialogs.fileDialogs.last().title, QStringLiteral("Datenbankmaske auswählen"));
+    QCOMPARE(f.dialogs.fileDialogs.last().filter, QStringLiteral("Datenbankmaske (*.dbm)|*.dbm"));
+    QCOMPARE(button->ZuweisMaske(), QStringLiteral("/masken/kunden.dbm"));
+
+    choose(f.editor<QComboBox>(QStringLiteral("BtnAction")), 6);
+    retype(f.editor<QLineEdit>(QStringLiteral("BtnProgExt")), QStringLiteral("pdf"));
+    retype(f.editor<QLineEdit>(QStringLiteral("BtnSectionExt")), QStringLiteral("Viewer"));
+    clickCheck(f.editor<QCheckBox>(QStringLiteral("BtnRunAs")));
+    f.dialogs.fileAnswers << QStringList(); // cancelled: the program stays
+    QTest::mouseClick(f.editor<QToolButton>(QStringLiteral("BtnZuweisMaskeBtn")), Qt::LeftButton);
+    QCOMPARE(f.dialogs.fileDialogs.last().title, QStringLiteral("Programm auswählen"));
+    QCOMPARE(f.dialogs.fileDialogs.last().filter, QStringLiteral("Programm (*.exe)|*.exe"));
+    QCOMPARE(button->ZuweisMaske(), QStringLiteral("/masken/kunden.dbm"));
+    QCOMPARE(button->ProgExt(), QStringLiteral("pdf"));
+    QCOMPARE(button->SectionExt(), QStringLiteral("Viewer"));
+    QVERIFY(button->RunAs());
+    QCOMPARE(f.dialogs.unexpected, 0);
+}
+
+void TestObjInsp::ruleDialogWritesOnlyOnOk()
+{
+    InspFixture f;
+    auto *button = f.add<TMaskBtn>();
+    button->setTag(11);
+    button->setRegelFeld(QStringLiteral("STATUS"));
+    button->setRegelFarbe(QStringLiteral("clBlue"));
+    f.select({button});
+    auto *rule = f.editor<QPushButton>(QStringLiteral("BtnZuweisRule"));
+    QVERIFY(!rule->font().bold());
+
+    // Cancelled after typing: nothing reaches the button.
+    f.dialogs.dialogAnswers << [](QDialog *d) {
+        auto *dlg = qobject_cast<TfrmRule *>(d);
+        QTest::keyClicks(dlg->Regel(), QStringLiteral("STATUS = 1"));
+        return int(QDialog::Rejected);
+    };
+    QTest::mouseClick(rule, Qt::LeftButton);
+    QCOMPARE(f.dialogs.dialogTitles, QStringList{QStringLiteral("Regel definieren")});
+    QCOMPARE(button->RegelAusdruck(), QString());
+    QVERIFY(!f.mask->Modified());
+
+    QString shownField, shownColor;
+    f.dialogs.dialogAnswers << [&](QDialog *d) {
+        auto *dlg = qobject_cast<TfrmRule *>(d);
+        shownField = dlg->Feld()->text();
+        shownColor = dlg->Farbe()->currentText();
+        QTest::keyClicks(dlg->Regel(), QStringLiteral("STATUS = 'offen'"));
+        retype(dlg->Feld(), QStringLiteral("STAT"));
+        choose(dlg->Farbe(), ColorIdents().indexOf(QStringLiteral("clRed")));
+        clickCheck(dlg->Zeile());
+        return int(QDialog::Accepted);
+    };
+    QTest::mouseClick(rule, Qt::LeftButton);
+    QCOMPARE(shownField, QStringLiteral("STATUS"));
+    QCOMPARE(shownColor, QStringLiteral("clBlue"));
+    QCOMPARE(button->RegelAusdruck(), QStringLiteral("STATUS = 'offen'"));
+    QCOMPARE(button->RegelFeld(), QStringLiteral("STAT"));
+    QCOMPARE(button->RegelFarbe(), QStringLiteral("clRed"));
+    QVERIFY(button->RegelZeile());
+    QVERIFY(f.mask->Modified());
+    QVERIFY(rule->font().bold());
+    // The dialogs stay with the inspector until it goes.
+    QCOMPARE(f.insp.findChildren<TfrmRule *>().size(), 2);
+}
+
+void TestObjInsp::checkDialogReadsAndWritesTheOptionText()
+{
+    InspFixture f;
+    f.add<TcxTextEdit>()->setText(QStringLiteral("KUNDE"));
+    f.add<TLabel>()->setCaption(QStringLiteral("ignoriert"));
+    f.add<TcxComboBox>()->setText(QStringLiteral("ORT"));
+    f.add<TcxMemo>()->setText(QStringLiteral("  BEMERKUNG \n"));
+    f.add<TcxDBCheckBox>()->setDataField(QStringLiteral("AKTIV"));
+    f.add<TcxDBPopupEdit>()->setText(QStringLiteral("LOOKUP"));
+    f.add<TcxTextEdit>()->setText(QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ"));
+
+    TCheckDlg dlg(f.mask);
+    QCOMPARE(dlg.windowTitle(), QStringLiteral("Checkbox Option"));
+    QStringList fields;
+    for (int i = 0; i < dlg.Feld()->count(); ++i)
+        fields << dlg.Feld()->itemText(i);
+    QCOMPARE(fields, (QStringList{QStringLiteral("KUNDE"), QStringLiteral("ORT"), QStringLiteral("BEMERKUNG"),
+                                  QStringLiteral("AKTIV"), QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ")}));
+
+    dlg.setHint(QStringLiteral("ORT%ONclLime%OFFclYellow"));
+    QCOMPARE(dlg.Feld()->currentText(), QStringLiteral("ORT"));
+    QCOMPARE(dlg.An()->currentText(), QStringLiteral("clLime"));
+    QCOMPARE(dlg.Aus()->currentText(), QStringLiteral("clYellow"));
+    dlg.setHint(QStringLiteral("GIBTESNICHT%ONclRed%OFFclBlue"));
+    QCOMPARE(dlg.Feld()->currentIndex(), -1);
+
+    // The long field name is cut to 20 characters.
+    choose(dlg.Feld(), 4);
+    dlg.show();
+    QTest::mouseClick(dlg.findChild<QPushButton *>(QStringLiteral("OKBtn")), Qt::LeftButton);
+    QCOMPARE(dlg.result(), int(QDialog::Accepted));
+    QCOMPARE(dlg.Hint(), QStringLiteral("ABCDEFGHIJKLMNOPQRST%ONclRed%OFFclBlue"));
+
+    // A mask without fields: nothing to choose, the name stays empty.
+    TMaske empty;
+    TCheckDlg none(&empty);
+    QCOMPARE(none.Feld()->count(), 0);
+    none.setHint(QStringLiteral("KUNDE%ONclGreen%OFFclMaroon"));
+    none.show();
+    QTest::mouseClick(none.findChild<QPushButton *>(QStringLiteral("OKBtn")), Qt::LeftButton);
+    QCOMPARE(none.Hint(), QStringLiteral("%ONclGreen%OFFclMaroon"));
+}
+
+void TestObjInsp::checkColorButtonRoundTrip()
+{
+    InspFixture f;
+    f.add<TcxTextEdit>()->setText(QStringLiteral("KUNDE"));
+    auto *check = f.add<TcxDBCheckBox>(nullptr, QRect(10, 40, 120, 24));
+    check->setDataField(QStringLiteral("AKTIV"));
+    check->setHint(QStringLiteral("KUNDE%ONclRed%OFFclGray"));
+    f.select({check});
+
+    QString shownField;
+    f.dialogs.dialogAnswers << [&](QDialog *d) {
+        auto *dlg = qobject_cast<TCheckDlg *>(d);
+        shownField = dlg->Feld()->currentText();
+        choose(dlg->Aus(), ColorIdents().indexOf(QStringLiteral("clWhite")));
+        dlg->show();
+        QTest::mouseClick(dlg->findChild<QPushButton *>(QStringLiteral("OKBtn")), Qt::LeftButton);
+        return dlg->result();
+    };
+    QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("CheckColorBtn")), Qt::LeftButton);
+    QCOMPARE(shownField, QStringLiteral("KUNDE"));
+    QCOMPARE(check->Hint(), QStringLiteral("KUNDE%ONclRed%OFFclWhite"));
+    QVERIFY(f.mask->Modified());
+    // The dialog is freed after use.
+    QVERIFY(f.insp.findChildren<TCheckDlg *>().isEmpty());
+
+    f.mask->setModified(false);
+    f.dialogs.dialogAnswers << [](QDialog *) { return int(QDialog::Rejected); };
+    QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("CheckColorBtn")), Qt::LeftButton);
+    QCOMPARE(check->Hint(), QStringLiteral("KUNDE%ONclRed%OFFclWhite"));
+    QVERIFY(!f.mask->Modified());
+}
+
+QTEST_MAIN(TestObjInsp)
+#include "test_objinsp.moc"
