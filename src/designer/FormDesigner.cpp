@@ -198,6 +198,9 @@ void TCustomFormDesigner::detach()
         if (w)
             unwatchWidget(w);
     m_watched.clear();
+    for (const QPointer<QWidget> &c : std::as_const(m_controls))
+        if (c)
+            disconnect(c, &QObject::destroyed, this, nullptr);
     m_controls.clear();
     m_components.clear();
     delete m_grabs;
@@ -348,6 +351,8 @@ void TCustomFormDesigner::AddControl(QWidget *control)
     disconnect(control, &QObject::destroyed, this, nullptr);
     connect(control, &QObject::destroyed, this, [this](QObject *gone) {
         // A selected control went away: it leaves the selection.
+        if (!m_active)
+            return;
         QWidget *old = currentControl();
         const auto dead = [gone](const QPointer<QWidget> &c) {
             return c.isNull() || static_cast<QObject *>(c.data()) == gone;

@@ -14,6 +14,9 @@ void TMaske::wireDesigner()
     TFormDesigner *d = m_formDesigner2;
     d->OnChange = [this](QObject *) { FormDesigner2Change(); };
     d->OnSelectControl = [this](QObject *, QWidget *c) { FormDesigner2SelectControl(c); };
+    // The tool bars and the inspector also follow a selection that grows or
+    // shrinks around the same current control.
+    d->OnSelectionChange = [this](QObject *) { FormDesigner2SelectControl(m_formDesigner2->currentControl()); };
     d->OnMoveSizeControl = [this](QObject *, QWidget *c) { FormDesigner2MoveSizeControl(c); };
     d->OnPlaceComponent = [this](QObject *, QObject *) { FormDesigner2PlaceComponent(); };
     d->OnDeleteControl = [this](QObject *, QWidget *c) { FormDesigner2DeleteControl(c); };

@@ -65,6 +65,7 @@ TMainForm::~TMainForm()
         for (TMaske *mask : m_mdiArea->findChildren<TMaske *>()) {
             disconnect(mask, nullptr, this, nullptr);
             mask->removeEventFilter(this);
+            mask->setHost(nullptr);
         }
     }
 }
