@@ -198,6 +198,7 @@ void TCustomFormDesigner::detach()
         if (w)
             unwatchWidget(w);
     m_watched.clear();
+    m_watchedSet.clear();
     for (const QPointer<QWidget> &c : std::as_const(m_controls))
         if (c)
             disconnect(c, &QObject::destroyed, this, nullptr);
@@ -222,17 +223,13 @@ void TCustomFormDesigner::watchWidget(QWidget *widget)
 {
     if (!widget || widget == m_overlay || widget == m_underlay)
         return;
-    if (m_messageProcessor == mpEvent) {
-        bool known = false;
-        for (const QPointer<QWidget> &w : std::as_const(m_watched))
-            if (w == widget) {
-                known = true;
-                break;
-            }
-        if (!known) {
-            widget->installEventFilter(this);
-            m_watched.append(widget);
-        }
+    if (m_messageProcessor == mpEvent && !m_watchedSet.contains(widget)) {
+        widget->installEventFilter(this);
+        m_watched.append(widget);
+        m_watchedSet.insert(widget);
+        // A later widget may get the same address; it must be watched anew.
+        connect(widget, &QObject::destroyed, &m_watchContext,
+                [this](QObject *gone) { m_watchedSet.remove(static_cast<QWidget *>(gone)); });
     }
     if (TControl *c = TControl::from(widget); c && widget != m_attached)
         c->setDesigning(true);
@@ -244,6 +241,7 @@ void TCustomFormDesigner::watchWidget(QWidget *widget)
 void TCustomFormDesigner::unwatchWidget(QWidget *widget)
 {
     widget->removeEventFilter(this);
+    disconnect(widget, &QObject::destroyed, &m_watchContext, nullptr);
     if (TControl *c = TControl::from(widget); c && widget != m_attached)
         c->setDesigning(false);
 }

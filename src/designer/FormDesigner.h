@@ -7,6 +7,7 @@
 #include <QPixmap>
 #include <QPointer>
 #include <QRect>
+#include <QSet>
 #include <QStringList>
 #include <QWidget>
 #include <functional>
@@ -460,6 +461,8 @@ private:
     bool m_active = false;
     QPointer<QWidget> m_attached;             // the design control while active
     QList<QPointer<QWidget>> m_watched;       // widgets carrying our event filter (mpEvent)
+    QSet<const QWidget *> m_watchedSet;       // the same, for the membership test
+    QObject m_watchContext;                   // receiver of the watched widgets' destroyed signals
     QList<QPointer<QWidget>> m_controls;      // the selection; the first is the current control
     QList<QPointer<QObject>> m_components;    // selected non-visual components
     QPointer<QWidget> m_menuControl;

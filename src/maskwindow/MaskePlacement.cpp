@@ -100,12 +100,14 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
         break;
     case 2: {
         auto *edit = static_cast<TcxTextEdit *>(w);
+        edit->setStyleController(m_cxStyleController);
         c->setTabStop(false);
         edit->setReadOnly(false);
         break;
     }
     case 3: {
         auto *combo = static_cast<TcxComboBox *>(w);
+        combo->setStyleController(m_cxStyleController);
         c->setParentFont(false);
         combo->setReadOnly(false);
         // The mask's own font, not the combo box's, takes the last tool bar
@@ -123,10 +125,12 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
         break;
     }
     case 4:
+        static_cast<TcxMemo *>(w)->setStyleController(m_cxStyleController);
         placeholderHint();
         c->setTabStop(false);
         break;
     case 5:
+        static_cast<TcxDBCheckBox *>(w)->setStyleController(m_cxStyleController);
         placeholderHint();
         c->setShowHint(true);
         break;
@@ -172,6 +176,7 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
         break;
     case 12: {
         auto *lookup = static_cast<TcxDBPopupEdit *>(w);
+        lookup->setStyleController(m_cxStyleController);
         lookup->setReadOnly(false);
         c->setTabStop(false);
         placeholderHint();

@@ -376,8 +376,11 @@ void TControl::parentChanged()
     }
     ContainerInfo *info = ContainerInfo::of(parent, true);
     if (classInfo().windowed) {
+        // Appended last: only the link from the previous last one is new.
+        info->prune();
+        if (!info->tabs.isEmpty())
+            QWidget::setTabOrder(info->tabs.last(), m_self);
         info->tabs.append(m_self);
-        info->applyFocusChain();
     }
     if (m_parentColor)
         applyColor();

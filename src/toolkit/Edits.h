@@ -8,6 +8,7 @@
 #include <QVector>
 
 #include "Control.h"
+#include "EditStyle.h"
 
 class TTextInputValidator;
 
@@ -66,11 +67,32 @@ private:
     TDesignInputGuard m_guard;
 };
 
+// The shared look of a mask's edit controls: a control given a style
+// controller draws border, shadow, gradient and hot tracking as the controller
+// says and repaints when it changes; without one it keeps its own look.
+// Check boxes take only HotTrack and Shadow.
+class TEditStyled
+{
+public:
+    TcxEditStyleController *StyleController() const { return m_styleController; }
+    void setStyleController(TcxEditStyleController *controller);
+
+protected:
+    TEditStyled(QWidget *self, bool borders) : m_styledSelf(self), m_styledBorders(borders) {}
+    ~TEditStyled() = default;
+
+private:
+    QWidget *m_styledSelf;
+    bool m_styledBorders;
+    QPointer<TcxEditStyleController> m_styleController;
+    QPointer<QWidget> m_styleOverlay; // draws the style over the control
+};
+
 // Converts text to the case an edit's CharCase asks for.
 QString applyCharCase(const QString &text, TEditCharCase charCase);
 
 // A single-line text edit.
-class TcxTextEdit : public TInputControlT<QLineEdit>
+class TcxTextEdit : public TInputControlT<QLineEdit>, public TEditStyled
 {
     Q_OBJECT
 public:
@@ -100,7 +122,7 @@ private:
 };
 
 // An editable combo box; Items are the values offered in its list.
-class TcxComboBox : public TInputControlT<QComboBox>
+class TcxComboBox : public TInputControlT<QComboBox>, public TEditStyled
 {
     Q_OBJECT
 public:
@@ -172,7 +194,7 @@ private:
 };
 
 // A multi-line text edit. Lines and Text are two views of one content.
-class TcxMemo : public TInputControlT<QPlainTextEdit>
+class TcxMemo : public TInputControlT<QPlainTextEdit>, public TEditStyled
 {
     Q_OBJECT
 public:
@@ -210,7 +232,7 @@ private:
 
 // A check box bound to a data field; the field holds ValueChecked or
 // ValueUnchecked.
-class TcxDBCheckBox : public TInputControlT<QCheckBox>
+class TcxDBCheckBox : public TInputControlT<QCheckBox>, public TEditStyled
 {
     Q_OBJECT
 public:

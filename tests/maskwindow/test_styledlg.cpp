@@ -1,0 +1,300 @@
+// "Stile ändern": filling from the mask's style, writing every change at
+// once, the colour dialog, and closing without undoing.
+#include <QtTest>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QPushButton>
+
+#include "EditStyle.h"
+#include "Edits.h"
+#include "Maske.h"
+#include "StyleDlg.h"
+#include "TestSupport.h"
+
+namespace {
+
+// Records the colour each colour dialog was opened with.
+struct RecordingDialogs : ScriptedDialogs
+{
+    QList<TColor> initials;
+    std::optional<TColor> colorDialog(QWidget *parent, TColor initial) override
+    {
+        initials << initial;
+        return ScriptedDialogs::colorDialog(parent, initial);
+    }
+};
+
+template <class T>
+T *child(QWidget *dialog, const char *name)
+{
+    T *w = dialog->findChild<T *>(QString::fromLatin1(name));
+    if (!w)
+        qWarning("missing %s", name);
+    return w;
+}
+
+// Picks a list entry the way a user does: focus the list, step with the keys.
+void chooseItem(QComboBox *combo, int index)
+{
+    QTest::mouseClick(combo, Qt::LeftButton); // opens the list
+    combo->hidePopup();
+    combo->setFocus();
+    QTest::keyClick(combo, Qt::Key_Home);
+    for (int i = 0; i < index; ++i)
+        QTest::keyClick(combo, Qt::Key_Down);
+}
+
+// A click on the box itself; a wide check box does not react beyond its caption.
+void click(QCheckBox *box)
+{
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+}
+
+QRgb borderPixel(QWidget *edit)
+{
+    return edit->grab().toImage().pixel(0, edit->height() / 2);
+}
+
+} // namespace
+
+class TestStyleDlg : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void layoutAndCaptions();
+    void showFillsTheControlsWithoutWritingBack();
+    void everyChangeGoesToTheControllerAtOnce();
+    void edgeBoxesChangeOnlyTheirOwnBit();
+    void colourButtonAndDoubleClickAskForAColour();
+    void cancelKeepsTheNewStyleOnTheMask();
+};
+
+void TestStyleDlg::layoutAndCaptions()
+{
+    TChangeStyle dlg;
+    QCOMPARE(dlg.windowTitle(), QStringLiteral("Stile ändern"));
+    auto *borderStyle = child<QComboBox>(&dlg, "edBorderStyle");
+    QVERIFY(borderStyle);
+    QCOMPARE(borderStyle->count(), 7);
+    QCOMPARE(borderStyle->itemText(ebsNone), QStringLiteral("ebsNone"));
+    QCOMPARE(borderStyle->itemText(ebsOffice11), QStringLiteral("ebsOffice11"));
+    auto *buttonStyle = child<QComboBox>(&dlg, "edButtonViewStyle");
+    QCOMPARE(buttonStyle->count(), 7);
+    QCOMPARE(buttonStyle->itemText(btsHotFlat), QStringLiteral("btsHotFlat"));
+    auto *transparency = child<QComboBox>(&dlg, "ButtonTransparence");
+    QCOMPARE(transparency->count(), 5);
+    QCOMPARE(transparency->itemText(ebtHideUnselected), QStringLiteral("ebtHideUnselected"));
+    auto *color = child<QComboBox>(&dlg, "edBorderColor");
+    QCOMPARE(color->findText(QStringLiteral("clRed")) >= 0, true);
+    QVERIFY(!color->itemIcon(color->findText(QStringLiteral("clRed"))).isNull());
+    QStringList groups;
+    for (QGroupBox *g : dlg.findChildren<QGroupBox *>())
+        groups << g->title();
+    QCOMPARE(groups, (QStringList{"Rand", "Schalter", "Kanten", "Andere"}));
+    QStringList boxes;
+    for (const char *name : {"cbLeft", "cbTop", "cbRight", "cbBottom", "cbHotTrack", "cbShadow", "cbGradient"})
+        boxes << child<QCheckBox>(&dlg, name)->text();
+    QCOMPARE(boxes, (QStringList{"Links", "Oben", "Rechts", "Unten", "HotTrack", "Schatten", "Verlauf"}));
+    QStringList buttons;
+    for (QPushButton *b : dlg.findChildren<QPushButton *>())
+        buttons << b->text();
+    QCOMPARE(buttons, (QStringList{"...", "&OK", "&Abbrechen"}));
+}
+
+void TestStyleDlg::showFillsTheControlsWithoutWritingBack()
+{
+    TcxEditStyleController style;
+    style.setBorderColor(TColor::fromRgb(0x12, 0x34, 0x56));
+    style.setBorderStyle(ebsUltraFlat);
+    style.setButtonStyle(btsFlat);
+    style.setButtonTransparency(ebtAlways);
+    style.setEdges(bLeft | bBottom);
+    style.setHotTrack(true);
+    style.setGradient(true);
+    QSignalSpy changes(&style, &TcxEditStyleController::styleChanged);
+
+    TChangeStyle dlg;
+    dlg.setStyleController(&style);
+    dlg.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dlg));
+    QCOMPARE(child<QComboBox>(&dlg, "edBorderColor")->currentText(), QStringLiteral("$00563412"));
+    QCOMPARE(child<QComboBox>(&dlg, "edBorderStyle")->currentIndex(), int(ebsUltraFlat));
+    QCOMPARE(child<QComboBox>(&dlg, "edButtonViewStyle")->currentIndex(), int(btsFlat));
+    QCOMPARE(child<QComboBox>(&dlg, "ButtonTransparence")->currentIndex(), int(ebtAlways));
+    QVERIFY(child<QCheckBox>(&dlg, "cbLeft")->isChecked());
+    QVERIFY(!child<QCheckBox>(&dlg, "cbTop")->isChecked());
+    QVERIFY(!child<QCheckBox>(&dlg, "cbRight")->isChecked());
+    QVERIFY(child<QCheckBox>(&dlg, "cbBottom")->isChecked());
+    QVERIFY(child<QCheckBox>(&dlg, "cbHotTrack")->isChecked());
+    QVERIFY(!child<QCheckBox>(&dlg, "cbShadow")->isChecked());
+    QVERIFY(child<QCheckBox>(&dlg, "cbGradient")->isChecked());
+    QCOMPARE(changes.count(), 0);
+    QCOMPARE(style.Edges(), bLeft | bBottom);
+
+    // Shown again after a change elsewhere, it shows the new state.
+    dlg.hide();
+    style.setBorderColor(Colors::clNavy);
+    style.setShadow(true);
+    dlg.show();
+    QCOMPARE(child<QComboBox>(&dlg, "edBorderColor")->currentText(), QStringLiteral("clNavy"));
+    QVERIFY(child<QCheckBox>(&dlg, "cbShadow")->isChecked());
+}
+
+void TestStyleDlg::everyChangeGoesToTheControllerAtOnce()
+{
+    TcxEditStyleController style;
+    TChangeStyle dlg;
+    dlg.setStyleController(&style);
+    dlg.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dlg));
+
+    chooseItem(child<QComboBox>(&dlg, "edBorderStyle"), ebsThick);
+    QCOMPARE(style.BorderStyle(), ebsThick);
+    chooseItem(child<QComboBox>(&dlg, "edButtonViewStyle"), btsUltraFlat);
+    QCOMPARE(style.ButtonStyle(), btsUltraFlat);
+    chooseItem(child<QComboBox>(&dlg, "ButtonTransparence"), ebtHideInactive);
+    QCOMPARE(style.ButtonTransparency(), ebtHideInactive);
+
+    auto *color = child<QComboBox>(&dlg, "edBorderColor");
+    chooseItem(color, color->findText(QStringLiteral("clTeal")));
+    QCOMPARE(color->currentText(), QStringLiteral("clTeal"));
+    QCOMPARE(style.BorderColor(), Colors::clTeal);
+
+    click(child<QCheckBox>(&dlg, "cbHotTrack"));
+    QVERIFY(style.HotTrack());
+    click(child<QCheckBox>(&dlg, "cbShadow"));
+    QVERIFY(style.Shadow());
+    click(child<QCheckBox>(&dlg, "cbGradient"));
+    QVERIFY(style.Gradient());
+    click(child<QCheckBox>(&dlg, "cbShadow"));
+    QVERIFY(!style.Shadow());
+    QVERIFY(style.HotTrack());
+
+    // OK only closes.
+    QTest::mouseClick(child<QPushButton>(&dlg, "btnOK"), Qt::LeftButton);
+    QCOMPARE(dlg.result(), int(QDialog::Accepted));
+    QVERIFY(!dlg.isVisible());
+    QCOMPARE(style.BorderStyle(), ebsThick);
+}
+
+void TestStyleDlg::edgeBoxesChangeOnlyTheirOwnBit()
+{
+    TcxEditStyleController style;
+    TChangeStyle dlg;
+    dlg.setStyleController(&style);
+    dlg.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dlg));
+    QCOMPARE(style.Edges(), kAllEdges);
+
+    click(child<QCheckBox>(&dlg, "cbTop"));
+    QCOMPARE(style.Edges(), 13);
+    click(child<QCheckBox>(&dlg, "cbLeft"));
+    QCOMPARE(style.Edges(), bRight | bBottom);
+    click(child<QCheckBox>(&dlg, "cbBottom"));
+    QCOMPARE(style.Edges(), int(bRight));
+    click(child<QCheckBox>(&dlg, "cbTop"));
+    QCOMPARE(style.Edges(), bRight | bTop);
+    // Keyboard: space toggles the focused box.
+    auto *right = child<QCheckBox>(&dlg, "cbRight");
+    right->setFocus();
+    QTest::keyClick(right, Qt::Key_Space);
+    QCOMPARE(style.Edges(), int(bTop));
+}
+
+void TestStyleDlg::colourButtonAndDoubleClickAskForAColour()
+{
+    RecordingDialogs dialogs;
+    TcxEditStyleController style;
+    style.setBorderColor(Colors::clMaroon);
+    TChangeStyle dlg;
+    dlg.setStyleController(&style);
+    dlg.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dlg));
+    auto *color = child<QComboBox>(&dlg, "edBorderColor");
+    auto *button = child<QPushButton>(&dlg, "btnBorderColor");
+    const int entries = color->count();
+
+    // Cancelled: nothing changes.
+    dialogs.colorAnswers << std::nullopt;
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(dialogs.initials, (QList<TColor>{Colors::clMaroon}));
+    QCOMPARE(style.BorderColor(), Colors::clMaroon);
+    QCOMPARE(color->currentText(), QStringLiteral("clMaroon"));
+
+    // A colour without a name becomes an entry of its own.
+    const TColor custom = TColor::fromRgb(0xab, 0xcd, 0xef);
+    dialogs.colorAnswers << custom;
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(style.BorderColor(), custom);
+    QCOMPARE(color->currentText(), QStringLiteral("$00efcdab"));
+    QCOMPARE(color->count(), entries + 1);
+
+    // A named colour selects its entry; the dialog opens on the current colour.
+    dialogs.colorAnswers << Colors::clLime;
+    QTest::mouseDClick(color, Qt::LeftButton);
+    color->hidePopup();
+    QCOMPARE(dialogs.initials.size(), 3);
+    QCOMPARE(dialogs.initials.last(), custom);
+    QCOMPARE(style.BorderColor(), Colors::clLime);
+    QCOMPARE(color->currentText(), QStringLiteral("clLime"));
+    QCOMPARE(color->count(), entries + 1);
+    QCOMPARE(dialogs.unexpected, 0);
+}
+
+void TestStyleDlg::cancelKeepsTheNewStyleOnTheMask()
+{
+    ScriptedDialogs dialogs;
+    TMaske *mask = new TMaske;
+    mask->resize(500, 400);
+    mask->show();
+    QVERIFY(QTest::qWaitForWindowExposed(mask));
+    auto *edit = qobject_cast<TcxTextEdit *>(mask->placeControl(2, mask->designSurface(), {10, 10}));
+    QVERIFY(edit);
+    QCOMPARE(edit->StyleController(), mask->cxStyleController());
+    auto *memo = qobject_cast<TcxMemo *>(mask->placeControl(4, mask->designSurface(), {10, 60}));
+    QVERIFY(memo);
+    QCOMPARE(memo->StyleController(), mask->cxStyleController());
+    QCOMPARE(mask->cxStyleController()->BorderStyle(), ebs3D);
+    const QRgb sunken = borderPixel(edit);
+    QCOMPARE(sunken, edit->palette().color(QPalette::Dark).rgb());
+
+    TChangeStyle dlg;
+    dlg.setStyleController(mask->cxStyleController());
+    dlg.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dlg));
+    chooseItem(child<QComboBox>(&dlg, "edBorderStyle"), ebsNone);
+    // Shown on the mask while the dialog is still open.
+    QCOMPARE(borderPixel(edit), edit->palette().color(QPalette::Base).rgb());
+    QTest::mouseClick(child<QPushButton>(&dlg, "btnCancel"), Qt::LeftButton);
+    QCOMPARE(dlg.result(), int(QDialog::Rejected));
+    QVERIFY(!dlg.isVisible());
+
+    QCOMPARE(mask->cxStyleController()->BorderStyle(), ebsNone);
+    const QRgb none = borderPixel(edit);
+    QVERIFY(none != sunken);
+    QCOMPARE(none, edit->palette().color(QPalette::Base).rgb());
+    QCOMPARE(borderPixel(memo), memo->palette().color(QPalette::Base).rgb());
+
+    // Pictures for a look at the dialog and at the edits in two styles.
+    const QString dir = qEnvironmentVariable("FEROLITH_SHOT_DIR");
+    if (!dir.isEmpty()) {
+        dlg.show();
+        dlg.grab().save(dir + QStringLiteral("/styledlg.png"));
+        mask->cxStyleController()->setBorderStyle(ebsNone);
+        mask->grab().save(dir + QStringLiteral("/edits_none.png"));
+        mask->cxStyleController()->setBorderStyle(ebs3D);
+        mask->grab().save(dir + QStringLiteral("/edits_3d.png"));
+        mask->cxStyleController()->setBorderStyle(ebsSingle);
+        mask->cxStyleController()->setBorderColor(Colors::clBlue);
+        mask->cxStyleController()->setShadow(true);
+        mask->cxStyleController()->setGradient(true);
+        mask->grab().save(dir + QStringLiteral("/edits_single_shadow_gradient.png"));
+    }
+    delete mask;
+}
+
+QTEST_MAIN(TestStyleDlg)
+#include "test_styledlg.moc"
