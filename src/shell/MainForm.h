@@ -78,6 +78,7 @@ public:
     TfrmSetup *frmSetup() const { return m_frmSetup; }
     TFormAlignment *FormAlignment() const { return m_formAlignment; }
     TObjInsp *ObjInsp() const { return m_objInsp; }
+    TMemoDlg *MemoDlg() const { return m_memoDlg; }
     QMenu *PopupMenu1() const { return m_popupMenu1; }
     TcxEditStyleController *currentStyleController() const { return m_currentStyleController; }
 
@@ -105,6 +106,7 @@ public:
     void dxBarLockClick(bool fromLockButton);
     void PopItemsClick(int tag);
     void SettingsItemClick();
+    void StyleItemClick();
     void LoadMask(const QString &fileName);
     bool SaveMask(const QString &fileName);
     void UpdateMenuItems();
@@ -195,6 +197,7 @@ private:
     QAction *RedoItem = nullptr;
     QAction *ObjectInspectorItem = nullptr;
     QAction *SettingsItem = nullptr;
+    QAction *StyleItem = nullptr;
     QAction *EditModeItem = nullptr;
     QAction *RunModeItem = nullptr;
     QAction *WindowCascadeItem = nullptr;
@@ -220,6 +223,7 @@ private:
     TfrmSetup *m_frmSetup = nullptr;
     TFormAlignment *m_formAlignment = nullptr;
     TObjInsp *m_objInsp = nullptr;
+    TMemoDlg *m_memoDlg = nullptr;
     QPointer<QMenu> m_popupMenu1;
     QPointer<TcxEditStyleController> m_currentStyleController;
 

@@ -23,6 +23,8 @@
 #include "ObjectInspector.h"
 #include "SetupDialog.h"
 #include "SizeForm.h"
+#include "MemoDialog.h"
+#include "StyleDlg.h"
 
 TFormDesigner *TMainForm::activeDesigner() const
 {
@@ -40,6 +42,7 @@ void TMainForm::createDesignTools()
     // The tool windows made at start-up, in this order: inspector, alignment.
     m_objInsp = new TObjInsp(this);
     m_formAlignment = new TFormAlignment(this);
+    m_memoDlg = new TMemoDlg(this);
     m_formAlignment->activeDesigner = [this]() -> TCustomFormDesigner * { return activeDesigner(); };
 
     connect(m_paletteGroup, &QActionGroup::triggered, this, &TMainForm::ToolButtonsClick);
@@ -59,6 +62,7 @@ void TMainForm::createDesignTools()
     LockItem->setCheckable(true);
     connect(LockItem, &QAction::triggered, this, [this] { dxBarLockClick(true); });
     connect(SettingsItem, &QAction::triggered, this, &TMainForm::SettingsItemClick);
+    connect(StyleItem, &QAction::triggered, this, &TMainForm::StyleItemClick);
     ObjectInspectorItem->setEnabled(true);
     connect(ObjectInspectorItem, &QAction::triggered, this, &TMainForm::showObjectInspector);
 
@@ -213,6 +217,7 @@ void TMainForm::UpdateBtn()
         w->setEnabled(current != nullptr);
     const TControl *c = TControl::from(current);
     dxBarSpinTabOrder->setEnabled(c && c->TabOrder() >= 0);
+    StyleItem->setEnabled(m_currentStyleController != nullptr && activeMask() != nullptr);
     const bool selected = designer && designer->ControlCount() > 0;
     CutItem->setEnabled(selected);
     CopyItem->setEnabled(selected);
@@ -421,4 +426,14 @@ void TMainForm::PopItemsClick(int tag)
 void TMainForm::SettingsItemClick()
 {
     UserDialogs::instance().execDialog(m_frmSetup);
+}
+
+void TMainForm::StyleItemClick()
+{
+    // Works live on the edit style of the mask activated last.
+    if (!m_currentStyleController)
+        return;
+    TChangeStyle dialog(this);
+    dialog.setStyleController(m_currentStyleController);
+    UserDialogs::instance().execDialog(&dialog);
 }

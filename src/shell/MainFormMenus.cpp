@@ -63,6 +63,7 @@ void TMainForm::createActions()
                                      commandIcon(Command::Inspector));
     SettingsItem = makeAction(this, "SettingsItem", QStringLiteral("&Einstellungen..."),
                               commandIcon(Command::Settings));
+    StyleItem = makeAction(this, "StyleItem", QStringLiteral("S&tile ändern..."));
     EditModeItem = makeAction(this, "EditModeItem", QStringLiteral("&Bearbeitungsmodus"));
     RunModeItem = makeAction(this, "RunModeItem", QStringLiteral("&Run Mode"));
     for (QAction *item : {ObjectInspectorItem, EditModeItem, RunModeItem})
@@ -115,7 +116,7 @@ void TMainForm::createMenus()
     m_editMenu->addAction(LockItem);
 
     m_optionsMenu = addMenu("OptionsMenu", QStringLiteral("&Optionen"));
-    m_optionsMenu->addActions({ObjectInspectorItem, SettingsItem});
+    m_optionsMenu->addActions({ObjectInspectorItem, SettingsItem, StyleItem});
     m_optionsMenu->addSeparator();
     m_optionsMenu->addActions({EditModeItem, RunModeItem});
 

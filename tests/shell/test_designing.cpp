@@ -12,7 +12,9 @@
 #include "FormDesigner.h"
 #include "Graphics.h"
 #include "ObjectInspector.h"
+#include "EditStyle.h"
 #include "TestSupport.h"
+#include <QComboBox>
 #include "helper_shell.h"
 
 using namespace ShellTest;
@@ -25,6 +27,7 @@ private slots:
     void initTestCase();
     void paletteClicksPlaceNamedControls();
     void toolBarsFollowTheSelection();
+    void styleAndSettingsOpenFromTheMenus();
 
 private:
     QTemporaryDir m_dir;
@@ -126,6 +129,37 @@ void TestDesigning::toolBarsFollowTheSelection()
     tabOrder->selectAll();
     QTest::keyClicks(tabOrder, QStringLiteral("0"));
     QCOMPARE(TControl::from(current)->TabOrder(), 0);
+}
+
+void TestDesigning::styleAndSettingsOpenFromTheMenus()
+{
+    ScriptedDialogs dialogs;
+    auto form = showMainForm();
+    QVERIFY(!action(form.get(), "StyleItem")->isEnabled());
+    clickTool(form.get(), "FileNewItem");
+    TMaske *mask = form->activeMask();
+    QVERIFY(action(form.get(), "StyleItem")->isEnabled());
+
+    // The style dialog edits the active mask's style; a change stays even on Cancel.
+    dialogs.dialogAnswers << [](QDialog *dialog) {
+        auto *borderStyle = dialog->findChild<QComboBox *>(QStringLiteral("edBorderStyle"));
+        borderStyle->setCurrentIndex(0);
+        return int(QDialog::Rejected);
+    };
+    action(form.get(), "StyleItem")->trigger();
+    QCOMPARE(dialogs.dialogTitles, QStringList{QStringLiteral("Stile ändern")});
+    QCOMPARE(mask->cxStyleController()->BorderStyle(), ebsNone);
+
+    // The settings reach the mask's designer on its next activation.
+    dialogs.dialogAnswers << [](QDialog *dialog) {
+        auto *step = dialog->findChild<QSpinBox *>(QStringLiteral("udnGridStep"));
+        step->setValue(16);
+        return int(QDialog::Rejected);
+    };
+    action(form.get(), "SettingsItem")->trigger();
+    QCOMPARE(dialogs.dialogTitles.last(), QStringLiteral("Einstellungen"));
+    mask->FormActivate();
+    QCOMPARE(mask->FormDesigner2()->GridStep(), 16);
 }
 
 QTEST_MAIN(TestDesigning)

@@ -75,8 +75,11 @@ int ScriptedDialogs::execDialog(QDialog *dialog)
         ++unexpected;
         return QDialog::Rejected;
     }
+    // Shown as a modal dialog would be, so that it fills itself on show.
+    dialog->show();
     const int result = dialogAnswers.takeFirst()(dialog);
     dialog->setResult(result);
+    dialog->hide();
     return result;
 }
 

@@ -49,6 +49,7 @@ public:
     std::optional<TColor> colorDialog(QWidget *parent, TColor initial) override;
     std::optional<QFont> fontDialog(QWidget *parent, const QFont &initial) override;
     QString directoryDialog(QWidget *parent, const QString &caption, const QString &initial) override;
+    // Shows the dialog, hands it to the next answer, hides it again.
     int execDialog(QDialog *dialog) override;
 };
 
