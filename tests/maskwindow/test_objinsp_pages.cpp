@@ -25,81 +25,9 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
-namespace {
+#include "helper_objinsp.h"
 
-// A shown mask in design mode with an inspector working on it.
-struct InspFixture
-{
-    ScriptedDialogs dialogs;
-    TMaske *mask = new TMaske;
-    TObjInsp insp;
-
-    InspFixture()
-    {
-        mask->resize(700, 500);
-        mask->show();
-        mask->FormDesigner2()->setActive(true);
-        insp.show();
-        insp.setActiveMask(mask);
-    }
-    ~InspFixture() { delete mask; }
-
-    template <class T>
-    T *add(QWidget *parent = nullptr, const QRect &r = QRect(10, 10, 120, 24))
-    {
-        auto *c = new T(parent ? parent : mask->designSurface());
-        Components::setOwner(c, mask);
-        AutoName(c, mask);
-        c->setBounds(r.x(), r.y(), r.width(), r.height());
-        c->show();
-        mask->FormDesigner2()->Update();
-        return c;
-    }
-
-    // The designer's selection changes; the main window tells the inspector.
-    void select(const QList<QWidget *> &controls)
-    {
-        TFormDesigner *d = mask->FormDesigner2();
-        d->ClearControls();
-        for (QWidget *c : controls)
-            d->AddControl(c);
-        insp.selectControl(controls.value(0));
-    }
-
-    template <class T>
-    T *editor(const QString &name) const
-    {
-        T *w = insp.findChild<T *>(name);
-        if (!w)
-            qFatal("no editor %s", qPrintable(name));
-        return w;
-    }
-};
-
-void retype(QWidget *edit, const QString &text)
-{
-    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
-    if (text.isEmpty())
-        QTest::keyClick(edit, Qt::Key_Delete);
-    else
-        QTest::keyClicks(edit, text);
-}
-
-// Picks an item with the keyboard, as a user steps through a closed combo.
-void choose(QComboBox *combo, int index)
-{
-    QTest::keyClick(combo, Qt::Key_Home);
-    for (int i = 0; i < index; ++i)
-        QTest::keyClick(combo, Qt::Key_Down);
-    QCOMPARE(combo->currentIndex(), index);
-}
-
-void clickCheck(QAbstractButton *button)
-{
-    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
-}
-
-} // namespace
+using namespace ObjInspTest;
 
 class TestObjInspPages : public QObject
 {
@@ -112,7 +40,6 @@ private slots:
     void imagePage();
     void pagerPageAndNewPages();
     void radioGroupPanelTreeListAndStringGrid();
-    void grabPages();
 };
 
 void TestObjInspPages::bevelAndShapePages()
@@ -340,23 +267,6 @@ void TestObjInspPages::radioGroupPanelTreeListAndStringGrid()
     f.select({grid});
     choose(f.editor<QComboBox>(QStringLiteral("StringGridAlign")), 4);
     QCOMPARE(grid->Align(), alRight);
-}
-
-void TestObjInspPages::grabPages()
-{
-    const QString dir = qEnvironmentVariable("OBJINSP_GRAB_DIR");
-    if (dir.isEmpty())
-        QSKIP("set OBJINSP_GRAB_DIR to grab the pages");
-    InspFixture f;
-    auto *edit = f.add<TcxTextEdit>();
-    auto *button = f.add<TMaskBtn>(nullptr, QRect(10, 40, 120, 24));
-    button->setTag(6);
-    auto *pager = f.add<TAdvOfficePager>(nullptr, QRect(200, 10, 300, 200));
-    f.insp.UpdateComponents();
-    for (QWidget *c : {static_cast<QWidget *>(edit), static_cast<QWidget *>(button), static_cast<QWidget *>(pager)}) {
-        f.select({c});
-        f.insp.grab().save(dir + QLatin1Char('/') + f.insp.currentPageCaption() + QStringLiteral(".png"));
-    }
 }
 
 QTEST_MAIN(TestObjInspPages)
