@@ -206,8 +206,7 @@ void TCustomFormDesigner::detach()
     m_components.clear();
     delete m_grabs;
     m_grabs = nullptr;
-    delete m_overlay;
-    m_overlay = nullptr;
+    delete m_overlay.data();
     hideHint();
     if (dc) {
         restoreDesignBackground();
