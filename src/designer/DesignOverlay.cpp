@@ -41,6 +41,12 @@ TDesignOverlay::TDesignOverlay(TCustomFormDesigner *designer, QWidget *designCon
     setFocusPolicy(Qt::NoFocus);
     setGeometry(designControl->rect());
     designControl->installEventFilter(this);
+    // The design control may go first and take the overlay with it; the
+    // engine must not hold on to it then.
+    connect(this, &QObject::destroyed, designer, [designer, this] {
+        if (designer->m_overlay == this)
+            designer->m_overlay = nullptr;
+    });
     raise();
     show();
 }

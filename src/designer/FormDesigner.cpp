@@ -206,7 +206,8 @@ void TCustomFormDesigner::detach()
     m_components.clear();
     delete m_grabs;
     m_grabs = nullptr;
-    delete m_overlay.data();
+    delete m_overlay;
+    m_overlay = nullptr;
     hideHint();
     if (dc) {
         restoreDesignBackground();

@@ -14,11 +14,11 @@
 
 #include "Colors.h"
 #include "DesignerTypes.h"
-#include "DesignerWidgets.h"
 
 class QIODevice;
 class TMemIniFile;
 class TGrabHandles;
+class TDesignOverlay;
 class TComponentContainer;
 class TfrmAlignmentPalette;
 
@@ -467,7 +467,7 @@ private:
     QList<QPointer<QObject>> m_components;    // selected non-visual components
     QPointer<QWidget> m_menuControl;
     TGrabHandles *m_grabs = nullptr;
-    QPointer<TDesignOverlay> m_overlay; // may go with the design control first
+    TDesignOverlay *m_overlay = nullptr;
     QPixmap m_grabBitmap[3];
     QPixmap m_gridBitmap;
     Qt::FocusPolicy m_savedFocusPolicy = Qt::NoFocus;
