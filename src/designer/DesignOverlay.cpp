@@ -42,7 +42,9 @@ TDesignOverlay::TDesignOverlay(TCustomFormDesigner *designer, QWidget *designCon
     setGeometry(designControl->rect());
     designControl->installEventFilter(this);
     // The design control may go first and take the overlay with it; the
-    // engine must not hold on to it then.
+    // engine must not hold on to it then. A QPointer would not do: the engine
+    // compares against the overlay while it is half destroyed, and a
+    // QPointer<TDesignOverlay> casts it to a type it no longer has.
     connect(this, &QObject::destroyed, designer, [designer, this] {
         if (designer->m_overlay == this)
             designer->m_overlay = nullptr;
