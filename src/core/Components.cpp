@@ -2,6 +2,7 @@
 
 #include <QMultiHash>
 #include <QPointer>
+#include <QSet>
 #include <QVariant>
 
 namespace {
@@ -41,11 +42,14 @@ public:
 
     void remove(QObject *component)
     {
-        const int i = m_items.indexOf(component);
+        // Mostly the newest goes (undo, cut); search from the end.
+        const int i = int(m_items.lastIndexOf(component));
         if (i < 0)
             return;
         m_items.removeAt(i);
-        m_byName.remove(m_names.take(component), component);
+        const QString name = m_names.take(component);
+        m_byName.remove(name, component);
+        nameFreed(name);
         QObject::disconnect(component, nullptr, this, nullptr);
     }
 
@@ -55,6 +59,7 @@ public:
         if (it == m_names.end())
             return;
         m_byName.remove(*it, component);
+        nameFreed(*it);
         *it = name.toLower();
         m_byName.insert(*it, component);
     }
@@ -84,6 +89,13 @@ public:
     }
 
     const QList<QObject *> &items() const { return m_items; }
+    QList<QObject *> &items() { return m_items; }
+
+    // The naming rule looks for the first free number from 1. Per name stem
+    // the registry remembers a number below which none is free, so naming
+    // thousands of controls of one class does not test 1, 2, 3 ... each time.
+    int firstCandidate(const QString &stem) const { return m_freeFrom.value(stem.toLower(), 1); }
+    void numbersTakenBelow(const QString &stem, int n) { m_freeFrom.insert(stem.toLower(), n); }
 
     // Owners with components; looked up on every name check, so not by
     // searching the owner's children.
@@ -94,7 +106,25 @@ public:
     }
 
 private:
+    void nameFreed(const QString &lowerName)
+    {
+        if (m_freeFrom.isEmpty())
+            return;
+        qsizetype digits = lowerName.size();
+        while (digits > 0 && lowerName.at(digits - 1).isDigit())
+            --digits;
+        if (digits == lowerName.size() || lowerName.size() - digits > 6)
+            return;
+        auto it = m_freeFrom.find(lowerName.left(digits));
+        if (it == m_freeFrom.end())
+            return;
+        const int n = QStringView(lowerName).mid(digits).toInt();
+        if (n < *it)
+            *it = qMax(1, n);
+    }
+
     const QObject *m_owner;
+    QHash<QString, int> m_freeFrom;
     QList<QObject *> m_items;
     QMultiHash<QString, QObject *> m_byName;
     QHash<QObject *, QString> m_names;
@@ -156,6 +186,27 @@ int componentIndex(const QObject *component)
     return reg ? int(reg->items().indexOf(const_cast<QObject *>(component))) : -1;
 }
 
+void reorder(const QObject *owner, const QList<QObject *> &ordered)
+{
+    auto *reg = registryOf(owner, false);
+    if (!reg)
+        return;
+    QSet<QObject *> wanted;
+    for (QObject *c : ordered)
+        if (Components::owner(c) == owner)
+            wanted.insert(c);
+    QList<QObject *> &items = reg->items();
+    QList<int> places;
+    for (int i = 0; i < items.size(); ++i)
+        if (wanted.contains(items.at(i)))
+            places.append(i);
+    int k = 0;
+    for (QObject *c : ordered) {
+        if (k < places.size() && wanted.remove(c)) // each goes into one place only
+            items[places.at(k++)] = c;
+    }
+}
+
 QObject *findComponent(const QObject *owner, const QString &name)
 {
     if (name.isEmpty())
@@ -178,10 +229,18 @@ bool AutoName(QObject *component, const QObject *owner)
         return false;
 
     const QString base = QString::fromLatin1(component->metaObject()->className()).mid(1);
-    for (int n = 1; n <= 32768; ++n) {
+    ComponentRegistry *writable = const_cast<ComponentRegistry *>(reg);
+    for (int n = reg ? reg->firstCandidate(base) : 1; n <= 32768; ++n) {
         const QString candidate = base + QString::number(n);
         if (!taken(candidate)) {
+            // Only names the registry sees are remembered: a component of
+            // another owner must not move this owner's mark.
+            const bool owned = reg && Components::owner(component) == owner;
             component->setObjectName(candidate);
+            if (owned)
+                writable->numbersTakenBelow(base, n + 1);
+            else if (writable)
+                writable->numbersTakenBelow(base, n);
             return true;
         }
     }

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QHash>
 #include <QPalette>
+#include <QSet>
 #include <algorithm>
 
 namespace {
@@ -52,6 +53,9 @@ public:
 
     QList<QPointer<QWidget>> tabs;
     bool aligning = false;
+    // How many of the container's controls have an Align; kept by the
+    // controls, so a container without any is never searched.
+    int alignedChildren = 0;
 
     void prune()
     {
@@ -87,11 +91,8 @@ private:
 
 bool hasAlignedChildren(QWidget *container)
 {
-    for (QObject *child : container->children()) {
-        if (const TControl *c = TControl::from(child); c && c->Align() != alNone)
-            return true;
-    }
-    return false;
+    const ContainerInfo *info = ContainerInfo::of(container, false);
+    return info && info->alignedChildren > 0;
 }
 
 } // namespace
@@ -171,6 +172,74 @@ QList<QWidget *> tabList(QWidget *container)
     return out;
 }
 
+void endLoading(const QList<QWidget *> &controls)
+{
+    QHash<QWidget *, int> wish; // control -> wanted tab order
+    QList<QWidget *> parents;
+    QSet<QWidget *> seen;
+    for (QWidget *w : controls) {
+        TControl *c = TControl::from(w);
+        if (!c || !w->parentWidget())
+            continue;
+        if (c->pendingTabOrder() >= 0)
+            wish.insert(w, c->pendingTabOrder());
+        if (!seen.contains(w->parentWidget())) {
+            seen.insert(w->parentWidget());
+            parents.append(w->parentWidget());
+        }
+    }
+    for (QWidget *parent : std::as_const(parents)) {
+        ContainerInfo *info = ContainerInfo::of(parent, false);
+        if (!info)
+            continue;
+        info->prune();
+        // Each control with a wish goes to exactly that place (the lower
+        // wish first on a tie, then the next free place); the others fill the
+        // places left, in the order they have. So a tab order read from a
+        // file comes out as written, whatever order the controls were read in.
+        const int n = int(info->tabs.size());
+        QList<std::pair<int, int>> wished; // (wish, index)
+        for (int i = 0; i < n; ++i) {
+            const auto it = wish.constFind(info->tabs.at(i));
+            if (it != wish.cend())
+                wished.append({*it, i});
+        }
+        std::stable_sort(wished.begin(), wished.end());
+        QVector<QPointer<QWidget>> placed(n);
+        QVector<bool> taken(n, false);
+        QVector<bool> isWished(n, false);
+        for (const auto &[w, i] : std::as_const(wished)) {
+            int pos = std::min(w, n - 1);
+            while (pos < n && taken[pos])
+                ++pos;
+            if (pos == n)
+                pos = int(taken.indexOf(false));
+            taken[pos] = true;
+            placed[pos] = info->tabs.at(i);
+            isWished[i] = true;
+        }
+        int free = 0;
+        for (int i = 0; i < n; ++i) {
+            if (isWished[i])
+                continue;
+            while (taken[free])
+                ++free;
+            taken[free] = true;
+            placed[free] = info->tabs.at(i);
+        }
+        info->tabs = QList<QPointer<QWidget>>(placed.cbegin(), placed.cend());
+        info->applyFocusChain();
+    }
+    for (QWidget *w : controls) {
+        if (TControl *c = TControl::from(w))
+            c->endLoading(false);
+    }
+    // Aligned children were left alone while loading; each container lays
+    // them out once now.
+    for (QWidget *parent : std::as_const(parents))
+        alignControls(parent);
+}
+
 } // namespace Containers
 
 TControl::TControl(QWidget *self) : m_self(self)
@@ -185,8 +254,11 @@ TControl::TControl(QWidget *self) : m_self(self)
 
 TControl::~TControl()
 {
-    if (ContainerInfo *info = ContainerInfo::of(m_tabParent, false))
+    if (ContainerInfo *info = ContainerInfo::of(m_tabParent, false)) {
         info->tabs.removeAll(m_self);
+        if (m_align != alNone)
+            --info->alignedChildren;
+    }
 }
 
 void TControl::setLeft(int value)
@@ -230,6 +302,8 @@ void TControl::setAlign(TAlign align)
 {
     if (m_align == align)
         return;
+    if (ContainerInfo *info = ContainerInfo::of(m_tabParent, false); info && (m_align == alNone) != (align == alNone))
+        info->alignedChildren += align == alNone ? -1 : 1;
     m_align = align;
     requestParentAlign();
 }
@@ -331,6 +405,10 @@ int TControl::TabOrder() const
 
 void TControl::setTabOrder(int order)
 {
+    if (isLoading()) {
+        m_loadTabOrder = order;
+        return;
+    }
     ContainerInfo *info = ContainerInfo::of(m_tabParent, false);
     if (!info || order < 0)
         return;
@@ -345,9 +423,26 @@ void TControl::setTabOrder(int order)
     }
 }
 
-void TControl::endLoading()
+void TControl::endLoading(bool applyPendingTabOrder)
 {
     m_state &= ~csLoading;
+    const int order = m_loadTabOrder;
+    m_loadTabOrder = -1;
+    if (applyPendingTabOrder) {
+        // Loading appended the control to its container's tab list without
+        // linking it into the focus chain.
+        if (ContainerInfo *info = ContainerInfo::of(m_tabParent, false)) {
+            info->prune();
+            const int i = int(info->tabs.indexOf(m_self));
+            if (i > 0)
+                QWidget::setTabOrder(info->tabs.at(i - 1), m_self);
+            if (i >= 0 && i + 1 < info->tabs.size())
+                QWidget::setTabOrder(m_self, info->tabs.at(i + 1));
+        }
+        if (order >= 0)
+            setTabOrder(order);
+        requestParentAlign();
+    }
     loadingEnded();
 }
 
@@ -368,6 +463,8 @@ void TControl::parentChanged()
     QWidget *oldParent = m_tabParent;
     if (ContainerInfo *old = ContainerInfo::of(oldParent, false)) {
         old->tabs.removeAll(m_self);
+        if (m_align != alNone)
+            --old->alignedChildren;
         Containers::alignControls(oldParent);
     }
     m_tabParent = parent;
@@ -376,18 +473,26 @@ void TControl::parentChanged()
         return;
     }
     ContainerInfo *info = ContainerInfo::of(parent, true);
+    if (m_align != alNone)
+        ++info->alignedChildren;
     if (classInfo().windowed) {
-        // Appended last: only the link from the previous last one is new.
-        info->prune();
-        if (!info->tabs.isEmpty())
-            QWidget::setTabOrder(info->tabs.last(), m_self);
-        info->tabs.append(m_self);
+        if (isLoading()) {
+            // Linked once when loading ends (Containers::endLoading).
+            info->tabs.append(m_self);
+        } else {
+            // Appended last: only the link from the previous last one is new.
+            info->prune();
+            if (!info->tabs.isEmpty())
+                QWidget::setTabOrder(info->tabs.last(), m_self);
+            info->tabs.append(m_self);
+        }
     }
     if (m_parentColor)
         applyColor();
     if (m_visible && parent->isVisible() && m_self->isHidden())
         m_self->QWidget::setVisible(true);
-    requestParentAlign();
+    if (!isLoading())
+        requestParentAlign();
     parentWidgetChanged(oldParent);
 }
 

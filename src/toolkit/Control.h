@@ -76,6 +76,8 @@ public:
     bool TabStop() const { return m_tabStop; }
     void setTabStop(bool tabStop) { m_tabStop = tabStop; }
     // The position among the windowed controls of the same parent, -1 without one.
+    // While loading, the wish is kept and applied when loading ends, so the
+    // order of reading does not matter (see Containers::endLoading).
     int TabOrder() const;
     void setTabOrder(int order);
 
@@ -88,7 +90,12 @@ public:
     bool isDesigning() const { return m_state & csDesigning; }
     // While loading, properties are applied as read and nothing sizes itself.
     void beginLoading() { m_state |= csLoading; }
-    void endLoading();
+    // Links the control into its container's focus chain, applies a tab
+    // order given while loading and aligns, unless told not to (the
+    // container does all that at once, see Containers::endLoading).
+    void endLoading(bool applyPendingTabOrder = true);
+    // The tab order given while loading, -1 for none.
+    int pendingTabOrder() const { return m_loadTabOrder; }
     void setDesigning(bool designing);
 
     // The part of the control that aligned children share.
@@ -129,6 +136,7 @@ private:
     bool m_tabStop = true;
     bool m_visible = true;
     int m_state = 0;
+    int m_loadTabOrder = -1;
 
     template <class> friend class TControlT;
 };
@@ -169,4 +177,8 @@ namespace Containers {
 void alignControls(QWidget *container);
 // The windowed controls of a container in tab order.
 QList<QWidget *> tabList(QWidget *container);
+// Ends the loading of these controls: per container, the tab orders they were
+// given while loading are applied all at once (ties keep the order of
+// creation), then each control's loading ends.
+void endLoading(const QList<QWidget *> &controls);
 } // namespace Containers
