@@ -317,3 +317,8 @@ void TfrmSetup::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
     m_swatchButtons[swDesigner]->setFocus();
 }
+
+QString TfrmSetup::DatenbankPfad() const
+{
+    return m_DBPfad->text();
+}

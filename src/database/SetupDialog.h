@@ -48,6 +48,8 @@ public:
     void applyTo(TFormDesigner *designer) const;
 
     QString InstallDir() const { return m_installDir; }
+    // The database folder as the field shows it (ends with a separator).
+    QString DatenbankPfad() const;
 
     int ServerProtokolIndex() const;
     // -1 selects no item; larger values select the last one.

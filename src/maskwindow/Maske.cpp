@@ -6,12 +6,23 @@
 #include "EditStyle.h"
 #include "FormDesigner.h"
 
+#include <QGuiApplication>
 #include <QPalette>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 
 TMaske::TMaske(QWidget *parent)
     : QMdiSubWindow(parent)
 {
+    // Until a resolution is chosen or loaded, the mask is designed for the
+    // screen it is made on.
+    if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+        m_pixel = screen->depth();
+        m_screenHeight = screen->size().height();
+        m_screenWidth = screen->size().width();
+    }
+
     // A closed mask is gone: the main window never keeps hidden masks around.
     setAttribute(Qt::WA_DeleteOnClose);
 
@@ -71,6 +82,22 @@ TMaske::~TMaske()
 {
     // The engine lets go of the surface before the surface goes.
     m_formDesigner2->setActive(false);
+}
+
+void TMaske::setScrollRanges(int horizontal, int vertical)
+{
+    m_surface->setMinimumSize(qBound(0, horizontal, QWIDGETSIZE_MAX), qBound(0, vertical, QWIDGETSIZE_MAX));
+}
+
+QSize TMaske::scrollRanges() const
+{
+    return m_surface->minimumSize();
+}
+
+void TMaske::scrollToOrigin()
+{
+    m_scrollBox->horizontalScrollBar()->setValue(0);
+    m_scrollBox->verticalScrollBar()->setValue(0);
 }
 
 void TMaske::setPath(const QString &path)

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QJsonObject>
+
+class TMaske;
+
+namespace MaskDump {
+
+// A loaded mask as one JSON object: its header, edit style and table
+// settings, and every control in the mask's component order with its place,
+// texts, font and all published properties.
+QJsonObject MaskToJson(TMaske *mask);
+
+} // namespace MaskDump

@@ -1,0 +1,109 @@
+// Saving a mask window to its mask file.
+#include "MaskWriter.h"
+
+#include "Components.h"
+#include "EditStyle.h"
+#include "FileNames.h"
+#include "IniFile.h"
+#include "IniFileAccess.h"
+#include "MaskWriterControls.h"
+#include "Maske.h"
+#include "TextCodec.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+namespace {
+
+// The hourglass for the whole save, also when it fails.
+class WaitCursor
+{
+public:
+    WaitCursor()
+    {
+        if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        else
+            m_active = false;
+    }
+    ~WaitCursor()
+    {
+        if (m_active)
+            QGuiApplication::restoreOverrideCursor();
+    }
+    WaitCursor(const WaitCursor &) = delete;
+    WaitCursor &operator=(const WaitCursor &) = delete;
+
+private:
+    bool m_active = true;
+};
+
+void writeHeader(TMaske *mask, TMemIniFile &ini)
+{
+    // Both spellings on purpose: the runtime reads either, and they are one
+    // section when read.
+    const QString db = QStringLiteral("Datenbank");
+    ini.writeString(db, QStringLiteral("Tabelle"), mask->Tabelle());
+    ini.writeString(db, QStringLiteral("Titel"), mask->Titel());
+    ini.writeInteger(db, QStringLiteral("Typ"), mask->Typ());
+    const QString screen = QStringLiteral("DatenBank");
+    ini.writeInteger(screen, QStringLiteral("Pixel"), mask->Pixel());
+    ini.writeInteger(screen, QStringLiteral("Height"), mask->ScreenHeight());
+    ini.writeInteger(screen, QStringLiteral("Width"), mask->ScreenWidth());
+
+    const TcxEditStyleController *style = mask->cxStyleController();
+    const QString s = QStringLiteral("Style");
+    ini.writeInteger(s, QStringLiteral("BorderStyle"), style->BorderStyle());
+    ini.writeInteger(s, QStringLiteral("ButtonStyle"), style->ButtonStyle());
+    ini.writeInteger(s, QStringLiteral("ButtonTrans"), style->ButtonTransparency());
+    ini.writeColor(s, QStringLiteral("Color"), style->BorderColor());
+    ini.writeBool(s, QStringLiteral("Shadow"), style->Shadow());
+    ini.writeBool(s, QStringLiteral("Hottrack"), style->HotTrack());
+    ini.writeBool(s, QStringLiteral("EdgeLeft"), style->Edges() & bLeft);
+    ini.writeBool(s, QStringLiteral("EdgeRight"), style->Edges() & bRight);
+    ini.writeBool(s, QStringLiteral("EdgeTop"), style->Edges() & bTop);
+    ini.writeBool(s, QStringLiteral("EdgeBottom"), style->Edges() & bBottom);
+}
+
+} // namespace
+
+namespace MaskWriter {
+
+QByteArray MaskFileBytes(TMaske *mask)
+{
+    TMemIniFile ini;
+    writeHeader(mask, ini);
+    QStringList pickLists;
+    TMaskWriter writer(mask, ini, pickLists);
+    for (QObject *component : Components::components(mask))
+        writer.write(component);
+    if (pickLists.isEmpty())
+        return ini.toBytes();
+    // The pick-list blocks stand before everything else.
+    const QString crlf = QStringLiteral("\r\n");
+    return TextCodec::encodeWindows1252(pickLists.join(crlf) + crlf + ini.text());
+}
+
+bool SaveMask(TMaske *mask, const QString &fileName, QString *errorMessage)
+{
+    mask->scrollToOrigin(); // positions are stored unscrolled
+    WaitCursor wait;
+
+    // The previous file becomes the backup; an older backup makes way. A
+    // backup file being saved under its own name keeps its content until
+    // the new one is complete.
+    const QString backup = FileNames::changeFileExt(fileName, QStringLiteral(".dbm_bak"));
+    if (QFileInfo(backup).absoluteFilePath() != QFileInfo(fileName).absoluteFilePath()
+        && QFileInfo(fileName).isFile()) {
+        QFile::remove(backup);
+        QFile::rename(fileName, backup);
+    }
+
+    if (!IniFileAccess::writeWhole(fileName, MaskFileBytes(mask), errorMessage))
+        return false;
+    mask->setModified(false);
+    return true;
+}
+
+} // namespace MaskWriter

@@ -1,0 +1,467 @@
+// The writers of the control kinds: one section per control, keys in the
+// order the application family's runtime knows them.
+#include "MaskWriterControls.h"
+
+#include "CommaText.h"
+#include "Containers.h"
+#include "Edits.h"
+#include "Graphics.h"
+#include "Grids.h"
+#include "IniFile.h"
+#include "Maske.h"
+#include "MyBtn.h"
+
+#include <cstring>
+
+namespace {
+const QString kSort = QStringLiteral("Sort");
+
+template <class T>
+T *as(QWidget *w)
+{
+    return static_cast<T *>(w);
+}
+} // namespace
+
+TMaskWriter::TMaskWriter(TMaske *mask, TMemIniFile &ini, QStringList &pickLists)
+    : m_mask(mask), m_ini(ini), m_pickLists(pickLists)
+{
+}
+
+void TMaskWriter::write(QObject *component)
+{
+    auto *w = qobject_cast<QWidget *>(component);
+    if (!w)
+        return;
+    // The exact class decides, not a base class: a label of another class
+    // than these is not saved.
+    const char *cls = component->metaObject()->className();
+    const auto is = [cls](const char *name) { return std::strcmp(cls, name) == 0; };
+    QString n;
+    if (is("TAdvOfficePager"))
+        WritePageControl(w, next("PageControl_"));
+    else if (is("TAdvOfficePage"))
+        WritePage(w, next("Page_"));
+    else if (is("TLabel"))
+        WriteLabel(w, next("Label_"));
+    else if (is("TDBLabel"))
+        WriteDBLabel(w, next("DBLabel_"));
+    else if (is("TcxTextEdit"))
+        WriteField(w, next("Field_", &n), n);
+    else if (is("TcxComboBox"))
+        WriteCField(w, next("CField_", &n), n);
+    else if (is("TcxDBPopupEdit"))
+        WriteLField(w, next("LField_", &n), n);
+    else if (is("TcxMemo"))
+        WriteMemo(w, next("Memo_", &n), n);
+    else if (is("TMaskBtn"))
+        WriteButton(w, next("Button_", &n), n);
+    else if (is("TBevel"))
+        WriteBevel(w, next("Bevel_"));
+    else if (is("TImageAspect"))
+        WriteImage(w, next("Image_"));
+    else if (is("TShape"))
+        WriteShape(w, next("Shape_"));
+    else if (is("TPanel"))
+        WritePanel(w, next("Panel_"));
+    else if (is("TcxDBCheckBox"))
+        WriteCheckBox(w, next("CheckBox_", &n), n);
+    else if (is("TcxDBTreeList"))
+        WriteTreeList(w, next("DBTreeList_"));
+    else if (is("TStringGrid"))
+        WriteStringGrid(w, next("StringGrid_"));
+    else if (is("TDBRadioGroup"))
+        WriteRadioGroup(w, next("DBRadioGroup_"));
+    else if (is("TDBGrid")) {
+        // The grid named "DBGrid1" is the mask's main grid; it is not counted.
+        if (w->objectName() == QLatin1String("DBGrid1"))
+            WriteBrowser(w, QStringLiteral("Browser"), true);
+        else
+            WriteBrowser(w, next("DBBrowser_"), false);
+    } else if (is("TImage"))
+        WriteView(w, QStringLiteral("View"));
+    else if (is("TTabSet"))
+        WriteTab(w, QStringLiteral("Tab"));
+}
+
+QString TMaskWriter::next(const char *prefix, QString *number)
+{
+    const QString p = QString::fromLatin1(prefix);
+    const QString n = QString::number(++m_counters[p]);
+    if (number)
+        *number = n;
+    return p + n;
+}
+
+void TMaskWriter::str(const QString &s, const char *key, const QString &value)
+{
+    m_ini.writeString(s, QString::fromLatin1(key), value);
+}
+
+void TMaskWriter::integer(const QString &s, const char *key, int value)
+{
+    m_ini.writeInteger(s, QString::fromLatin1(key), value);
+}
+
+void TMaskWriter::boolean(const QString &s, const char *key, bool value)
+{
+    m_ini.writeBool(s, QString::fromLatin1(key), value);
+}
+
+void TMaskWriter::color(const QString &s, const char *key, TColor value)
+{
+    m_ini.writeColor(s, QString::fromLatin1(key), value);
+}
+
+void TMaskWriter::parent(const QString &s, QWidget *w)
+{
+    const QWidget *p = w->parentWidget();
+    str(s, "Parent", p ? p->objectName() : QStringLiteral("Maske"));
+}
+
+void TMaskWriter::bounds(const QString &s, const TControl *c)
+{
+    integer(s, "Left", c->Left());
+    integer(s, "Top", c->Top());
+    integer(s, "Height", c->Height());
+    integer(s, "Width", c->Width());
+}
+
+void TMaskWriter::fontColorFirst(const QString &s, const TControl *c, const char *sizeKey)
+{
+    const TFont f = c->Font();
+    color(s, "FColor", f.Color);
+    str(s, "FName", f.Name);
+    integer(s, sizeKey, f.Size);
+    str(s, "FStyle", FontStylesToString(f.Style));
+}
+
+void TMaskWriter::fontColorAfterSize(const QString &s, const TControl *c)
+{
+    const TFont f = c->Font();
+    str(s, "FName", f.Name);
+    integer(s, "FSize", f.Size);
+    color(s, "FColor", f.Color);
+    str(s, "FStyle", FontStylesToString(f.Style));
+}
+
+void TMaskWriter::sortLine(const TControl *c, const char *kindWord, const QString &number)
+{
+    // Tab orders count per parent: a later control with the same order
+    // overwrites the line of an earlier one.
+    m_ini.writeString(kSort, QString::number(c->TabOrder()), QString::fromLatin1(kindWord) + number);
+}
+
+void TMaskWriter::WritePageControl(QWidget *w, const QString &s)
+{
+    auto *pager = as<TAdvOfficePager>(w);
+    parent(s, w);
+    integer(s, "Style", m_mask->OfficePagerStyle());
+    integer(s, "Alignment", pager->Align());
+    bounds(s, pager);
+    integer(s, "TabPos", pager->TabPosition());
+    integer(s, "ActivePage", pager->ActivePageIndex());
+    fontColorFirst(s, pager, "FontSize");
+}
+
+void TMaskWriter::WritePage(QWidget *w, const QString &s)
+{
+    auto *page = as<TAdvOfficePage>(w);
+    parent(s, w);
+    integer(s, "Pageindex", page->PageIndex());
+    str(s, "Name", page->Caption());
+}
+
+void TMaskWriter::WriteLabel(QWidget *w, const QString &s)
+{
+    auto *label = as<TLabel>(w);
+    parent(s, w);
+    str(s, "Name", label->Caption());
+    bounds(s, label);
+    fontColorFirst(s, label, "FontSize");
+    boolean(s, "WordWrap", label->WordWrap());
+    integer(s, "Layout", label->Layout());
+    integer(s, "Alignment", label->Alignment());
+}
+
+void TMaskWriter::WriteDBLabel(QWidget *w, const QString &s)
+{
+    auto *label = as<TDBLabel>(w);
+    parent(s, w);
+    str(s, "Name", label->Caption());
+    str(s, "DB", label->DataSource());
+    str(s, "Desc", label->HelpKeyword());
+    integer(s, "Typ", label->Tag());
+    str(s, "Laenge", label->Hint());
+    bounds(s, label);
+    fontColorFirst(s, label, "FontSize");
+    boolean(s, "WordWrap", label->WordWrap());
+    integer(s, "Alignment", label->Alignment());
+    boolean(s, "BrowserEdit", label->BrowserEdit());
+}
+
+void TMaskWriter::WriteField(QWidget *w, const QString &s, const QString &n)
+{
+    auto *edit = as<TcxTextEdit>(w);
+    parent(s, w);
+    str(s, "Name", edit->Text());
+    str(s, "Desc", edit->HelpKeyword());
+    str(s, "MaskEdit", edit->Hint());
+    integer(s, "Left", edit->Left());
+    integer(s, "Top", edit->Top());
+    integer(s, "Laenge", edit->MaxLength());
+    integer(s, "Typ", edit->Tag());
+    integer(s, "Height", edit->Height());
+    integer(s, "Width", edit->Width());
+    color(s, "Color", edit->Color());
+    boolean(s, "Pflicht", edit->TabStop());
+    boolean(s, "ReadOnly", edit->ReadOnly());
+    integer(s, "TabOrder", edit->TabOrder());
+    fontColorAfterSize(s, edit);
+    integer(s, "CharCase", edit->CharCase());
+    sortLine(edit, "0-Feld", n);
+}
+
+void TMaskWriter::WriteLField(QWidget *w, const QString &s, const QString &n)
+{
+    auto *lookup = as<TcxDBPopupEdit>(w);
+    const TFont f = lookup->Font();
+    parent(s, w);
+    str(s, "Name", lookup->DataField());
+    str(s, "DataBase", lookup->EditMask());
+    str(s, "Desc", lookup->HelpKeyword());
+    boolean(s, "Picklist", lookup->PopupSizeable());
+    integer(s, "Left", lookup->Left());
+    integer(s, "Top", lookup->Top());
+    integer(s, "Laenge", lookup->MaxLength());
+    integer(s, "Typ", lookup->Tag());
+    integer(s, "Height", lookup->Height());
+    integer(s, "Width", lookup->Width());
+    color(s, "Color", lookup->Color());
+    integer(s, "TabOrder", lookup->TabOrder());
+    str(s, "FName", f.Name);
+    integer(s, "FSize", f.Size);
+    boolean(s, "Readonly", lookup->ReadOnly());
+    color(s, "FColor", f.Color);
+    str(s, "FStyle", FontStylesToString(f.Style));
+    integer(s, "CharCase", lookup->CharCase());
+    sortLine(lookup, "5-LFeld", n);
+}
+
+void TMaskWriter::WriteCField(QWidget *w, const QString &s, const QString &n)
+{
+    auto *combo = as<TcxComboBox>(w);
+    parent(s, w);
+    str(s, "Name", combo->Text());
+    str(s, "Desc", combo->HelpKeyword());
+    integer(s, "Left", combo->Left());
+    integer(s, "Top", combo->Top());
+    integer(s, "Laenge", combo->MaxLength());
+    integer(s, "Typ", combo->Tag());
+    integer(s, "Height", combo->Height());
+    integer(s, "Width", combo->Width());
+    color(s, "Color", combo->Color());
+    integer(s, "TabOrder", combo->TabOrder());
+    str(s, "PullDown", combo->Hint());
+    // One block per pick-list name; the first combo box with items fills it.
+    const QStringList items = combo->Items();
+    const QString header = QLatin1Char('[') + combo->Hint() + QLatin1Char(']');
+    if (!items.isEmpty() && !m_pickLists.contains(header)) {
+        m_pickLists.append(header);
+        m_pickLists.append(items);
+        m_pickLists.append(QString());
+    }
+    boolean(s, "Pflicht", combo->TabStop());
+    boolean(s, "Readonly", combo->ReadOnly());
+    fontColorAfterSize(s, combo);
+    sortLine(combo, "1-CFeld", n);
+}
+
+void TMaskWriter::WriteMemo(QWidget *w, const QString &s, const QString &n)
+{
+    auto *memo = as<TcxMemo>(w);
+    parent(s, w);
+    str(s, "Name", memo->Text());
+    str(s, "Desc", memo->HelpKeyword());
+    bounds(s, memo);
+    color(s, "Color", memo->Color());
+    fontColorAfterSize(s, memo);
+    integer(s, "TabOrder", memo->TabOrder());
+    boolean(s, "Pflicht", memo->TabStop());
+    boolean(s, "Plaintext", memo->Tag() != 0);
+    integer(s, "Scrollbars", memo->ScrollBars());
+    sortLine(memo, "2-Memo", n);
+}
+
+void TMaskWriter::WriteCheckBox(QWidget *w, const QString &s, const QString &n)
+{
+    auto *check = as<TcxDBCheckBox>(w);
+    parent(s, w);
+    str(s, "Name", check->Caption());
+    str(s, "Desc", check->HelpKeyword());
+    str(s, "DataField", check->DataField());
+    bounds(s, check);
+    integer(s, "TabOrder", check->TabOrder());
+    str(s, "Funktion", check->Hint());
+    fontColorAfterSize(s, check);
+    boolean(s, "Checked", check->Checked());
+    str(s, "True", check->ValueChecked());
+    str(s, "False", check->ValueUnchecked());
+    integer(s, "Alignment", check->Alignment());
+    sortLine(check, "4-Checkbox", n);
+}
+
+void TMaskWriter::WriteBevel(QWidget *w, const QString &s)
+{
+    auto *bevel = as<TBevel>(w);
+    parent(s, w);
+    bounds(s, bevel);
+    integer(s, "Typ", bevel->Shape());
+}
+
+void TMaskWriter::WriteImage(QWidget *w, const QString &s)
+{
+    auto *image = as<TImageAspect>(w);
+    parent(s, w);
+    str(s, "Filename", image->FileName());
+    bounds(s, image);
+}
+
+void TMaskWriter::WritePanel(QWidget *w, const QString &s)
+{
+    auto *panel = as<TPanel>(w);
+    parent(s, w);
+    str(s, "Name", panel->Caption());
+    bounds(s, panel);
+    integer(s, "BWidth", panel->BevelWidth());
+    color(s, "PColor", panel->Color());
+    integer(s, "BInner", panel->BevelInner());
+    integer(s, "BOuter", panel->BevelOuter());
+    integer(s, "BStyle", panel->BorderStyle());
+    boolean(s, "Ctl3D", panel->Ctl3D());
+    fontColorAfterSize(s, panel);
+    integer(s, "Alignment", panel->Align());
+}
+
+void TMaskWriter::WriteShape(QWidget *w, const QString &s)
+{
+    auto *shape = as<TShape>(w);
+    parent(s, w);
+    bounds(s, shape);
+    integer(s, "Typ", shape->Shape());
+    color(s, "FColor", shape->BrushColor());
+    color(s, "FPColor", shape->PenColor());
+}
+
+void TMaskWriter::WriteButton(QWidget *w, const QString &s, const QString &n)
+{
+    auto *button = as<TMaskBtn>(w);
+    const TFont f = button->Font();
+    parent(s, w);
+    str(s, "Name", button->Caption());
+    bounds(s, button);
+    integer(s, "TabOrder", button->TabOrder());
+    str(s, "PrgRun", button->Hint());
+    str(s, "FName", f.Name);
+    integer(s, "FSize", f.Size);
+    integer(s, "Action", button->Tag());
+    color(s, "FColor", f.Color);
+    str(s, "FStyle", FontStylesToString(f.Style));
+    str(s, "Ext", button->ProgExt());
+    str(s, "ZMaske", button->ZuweisMaske());
+    str(s, "ZFeld", button->ZuweisFeld());
+    str(s, "ZFeldEx", button->ZuweisFeldEx());
+    str(s, "ZIndex", button->IndexFeld());
+    str(s, "RuleField", button->RegelFeld());
+    str(s, "RuleExpression", button->RegelAusdruck());
+    str(s, "RuleColor", button->RegelFarbe());
+    boolean(s, "RuleArea", button->RegelZeile());
+    str(s, "Ext_Section", button->SectionExt());
+    integer(s, "Margin", button->Margin());
+    boolean(s, "RunAs", button->RunAs());
+    sortLine(button, "3-Button", n);
+}
+
+void TMaskWriter::WriteBrowser(QWidget *w, const QString &s, bool mainGrid)
+{
+    auto *grid = as<TDBGrid>(w);
+    const TFont f = grid->Font();
+    const TFont h = grid->TitleFont();
+    parent(s, w);
+    bounds(s, grid);
+    str(s, "FName", f.Name);
+    integer(s, "FSize", f.Size);
+    // The scroll bar choice lives in Tag.
+    if (!mainGrid)
+        integer(s, "Scrollbars", grid->Tag());
+    color(s, "FColor", f.Color);
+    str(s, "FStyle", FontStylesToString(f.Style));
+    str(s, "HFName", h.Name);
+    integer(s, "HFSize", h.Size);
+    color(s, "HFColor", h.Color);
+    str(s, "HFStyle", FontStylesToString(h.Style));
+    if (mainGrid)
+        boolean(s, "Treelist", grid->TabStop()); // the structure browser flag
+    boolean(s, "ReadOnly", grid->ReadOnly());
+    integer(s, "Alignment", grid->Align());
+    integer(s, "Ausrichtung", grid->Align());
+    if (!mainGrid)
+        str(s, "DataBase", grid->Hint());
+}
+
+void TMaskWriter::WriteTreeList(QWidget *w, const QString &s)
+{
+    auto *tree = as<TcxDBTreeList>(w);
+    str(s, "Name", tree->objectName());
+    parent(s, w);
+    str(s, "Index", tree->StateIndexField());
+    str(s, "QXID", QStringLiteral("QXParent"));
+    str(s, "DBIndex", tree->KeyField());
+    str(s, "Keyfield", tree->KeyField());
+    str(s, "ParentField", tree->ParentField());
+    str(s, "Felder", tree->Hint());
+    str(s, "DB", tree->HelpKeyword());
+    integer(s, "Alignment", tree->Align());
+    boolean(s, "DragDrop", tree->DragDrop());
+    bounds(s, tree);
+    fontColorAfterSize(s, tree);
+}
+
+void TMaskWriter::WriteStringGrid(QWidget *w, const QString &s)
+{
+    auto *grid = as<TStringGrid>(w);
+    parent(s, w);
+    str(s, "Name", grid->objectName());
+    bounds(s, grid);
+    integer(s, "Alignment", grid->Align());
+    fontColorAfterSize(s, grid);
+}
+
+void TMaskWriter::WriteRadioGroup(QWidget *w, const QString &s)
+{
+    auto *group = as<TDBRadioGroup>(w);
+    parent(s, w);
+    str(s, "DataField", group->DataField());
+    integer(s, "Laenge", group->Tag());
+    str(s, "Caption", group->Caption());
+    str(s, "Desc", group->HelpKeyword());
+    bounds(s, group);
+    fontColorFirst(s, group, "FontSize");
+    boolean(s, "Pflicht", group->TabStop());
+    str(s, "Items", CommaText::join(group->Items()));
+    integer(s, "Columns", group->Columns());
+}
+
+void TMaskWriter::WriteView(QWidget *w, const QString &s)
+{
+    parent(s, w);
+    bounds(s, TControl::from(w));
+}
+
+void TMaskWriter::WriteTab(QWidget *w, const QString &s)
+{
+    const TControl *tabs = TControl::from(w);
+    parent(s, w);
+    bounds(s, tabs);
+    fontColorAfterSize(s, tabs);
+}

@@ -1,0 +1,264 @@
+// Saving mask windows: the sections and their keys in the runtime's order,
+// the numbering and visiting rules, pick-list blocks, the tab order section
+// and the backup.
+#include <QtTest>
+
+#include "Edits.h"
+#include "Graphics.h"
+#include "Grids.h"
+#include "Label.h"
+#include "MyBtn.h"
+#include "helper_masks.h"
+
+using namespace MaskTest;
+using namespace ShellTest;
+
+namespace {
+// A label of a class of its own: not one the mask file knows.
+class TFancyLabel : public TLabel
+{
+    Q_OBJECT
+public:
+    using TLabel::TLabel;
+};
+
+QStringList keysOf(const QStringList &lines)
+{
+    QStringList keys;
+    for (const QString &line : lines)
+        keys << line.section(QLatin1Char('='), 0, 0);
+    return keys;
+}
+
+QStringList sectionNames(const QString &text)
+{
+    QStringList out;
+    for (const QString &line : text.split(QLatin1Char('\n')))
+        if (line.startsWith(QLatin1Char('[')))
+            out << line.mid(1, line.size() - 2);
+    return out;
+}
+} // namespace
+
+class TestSaving : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { flushDeletes(); }
+    void everyKindWritesItsKeysInOrder();
+    void visitingOrderAndNumbering();
+    void pickListsAndSortLines();
+    void backupAndFailure();
+};
+
+void TestSaving::everyKindWritesItsKeysInOrder()
+{
+    Fixture home;
+    auto form = showMainForm();
+    form->FileNewItemClick();
+    TMaske *mask = form->activeMask();
+    QWidget *surface = mask->designSurface();
+    for (int code : {16, 17, 1, 10, 2, 3, 12, 4, 5, 8, 13, 11, 7, 6, 19, 20, 18, 9})
+        QVERIFY(mask->placeControl(code, surface, QPoint(10, 10 + code * 30)));
+    QVERIFY(mask->placeControl(6, surface, QPoint(500, 10))); // a second grid
+
+    const QString text = savedText(mask);
+    QCOMPARE(sectionNames(text),
+             QStringList({"Datenbank", "Style", "PageControl_1", "Page_1", "Page_2", "Panel_1", "Label_1",
+                          "DBLabel_1", "Field_1", "Sort", "CField_1", "LField_1", "Memo_1", "CheckBox_1", "Bevel_1",
+                          "Image_1", "Shape_1", "Button_1", "Browser", "DBTreeList_1", "StringGrid_1",
+                          "DBRadioGroup_1", "View", "Tab", "DBBrowser_1"}));
+    // Both spellings of the header are one section.
+    QCOMPARE(keysOf(sectionLines(text, "Datenbank")),
+             QStringList({"Tabelle", "Titel", "Typ", "Pixel", "Height", "Width"}));
+    QCOMPARE(keysOf(sectionLines(text, "Style")),
+             QStringList({"BorderStyle", "ButtonStyle", "ButtonTrans", "Color", "Shadow", "Hottrack", "EdgeLeft",
+                          "EdgeRight", "EdgeTop", "EdgeBottom"}));
+
+    const QStringList font = {"FName", "FSize", "FColor", "FStyle"};
+    const QStringList colourFirst = {"FColor", "FName", "FontSize", "FStyle"};
+    const QStringList box = {"Left", "Top", "Height", "Width"};
+    QCOMPARE(keysOf(sectionLines(text, "PageControl_1")),
+             QStringList({"Parent", "Style", "Alignment"}) + box + QStringList({"TabPos", "ActivePage"}) + colourFirst);
+    QCOMPARE(keysOf(sectionLines(text, "Page_2")), QStringList({"Parent", "Pageindex", "Name"}));
+    QCOMPARE(sectionLines(text, "Page_2"), QStringList({"Parent=AdvOfficePager1", "Pageindex=1", "Name=Seite2"}));
+    QCOMPARE(keysOf(sectionLines(text, "Panel_1")),
+             QStringList({"Parent", "Name"}) + box
+                 + QStringList({"BWidth", "PColor", "BInner", "BOuter", "BStyle", "Ctl3D"}) + font
+                 + QStringList({"Alignment"}));
+    QCOMPARE(keysOf(sectionLines(text, "Label_1")),
+             QStringList({"Parent", "Name"}) + box + colourFirst + QStringList({"WordWrap", "Layout", "Alignment"}));
+    QCOMPARE(keysOf(sectionLines(text, "DBLabel_1")),
+             QStringList({"Parent", "Name", "DB", "Desc", "Typ", "Laenge"}) + box + colourFirst
+                 + QStringList({"WordWrap", "Alignment", "BrowserEdit"}));
+    QCOMPARE(keysOf(sectionLines(text, "Field_1")),
+             QStringList({"Parent", "Name", "Desc", "MaskEdit", "Left", "Top", "Laenge", "Typ", "Height", "Width",
+                          "Color", "Pflicht", "ReadOnly", "TabOrder"})
+                 + font + QStringList({"CharCase"}));
+    QCOMPARE(keysOf(sectionLines(text, "LField_1")),
+             QStringList({"Parent", "Name", "DataBase", "Desc", "Picklist", "Left", "Top", "Laenge", "Typ", "Height",
+                          "Width", "Color", "TabOrder", "FName", "FSize", "Readonly", "FColor", "FStyle",
+                          "CharCase"}));
+    QCOMPARE(keysOf(sectionLines(text, "CField_1")),
+             QStringList({"Parent", "Name", "Desc", "Left", "Top", "Laenge", "Typ", "Height", "Width", "Color",
+                          "TabOrder", "PullDown", "Pflicht", "Readonly"})
+                 + font);
+    QCOMPARE(keysOf(sectionLines(text, "Memo_1")),
+             QStringList({"Parent", "Name", "Desc"}) + box + QStringList({"Color"}) + font
+                 + QStringList({"TabOrder", "Pflicht", "Plaintext", "Scrollbars"}));
+    QCOMPARE(keysOf(sectionLines(text, "CheckBox_1")),
+             QStringList({"Parent", "Name", "Desc", "DataField"}) + box + QStringList({"TabOrder", "Funktion"}) + font
+                 + QStringList({"Checked", "True", "False", "Alignment"}));
+    QCOMPARE(keysOf(sectionLines(text, "Bevel_1")), QStringList({"Parent"}) + box + QStringList({"Typ"}));
+    QCOMPARE(keysOf(sectionLines(text, "Image_1")), QStringList({"Parent", "Filename"}) + box);
+    QCOMPARE(keysOf(sectionLines(text, "Shape_1")),
+             QStringList({"Parent"}) + box + QStringList({"Typ", "FColor", "FPColor"}));
+    QCOMPARE(keysOf(sectionLines(text, "Button_1")),
+             QStringList({"Parent", "Name"}) + box
+                 + QStringList({"TabOrder", "PrgRun", "FName", "FSize", "Action", "FColor", "FStyle", "Ext", "ZMaske",
+                                "ZFeld", "ZFeldEx", "ZIndex", "RuleField", "RuleExpression", "RuleColor", "RuleArea",
+                                "Ext_Section", "Margin", "RunAs"}));
+    QCOMPARE(keysOf(sectionLines(text, "Browser")),
+             QStringList({"Parent"}) + box + font
+                 + QStringList({"HFName", "HFSize", "HFColor", "HFStyle", "Treelist", "ReadOnly", "Alignment",
+                                "Ausrichtung"}));
+    QCOMPARE(keysOf(sectionLines(text, "DBBrowser_1")),
+             QStringList({"Parent"}) + box
+                 + QStringList({"FName", "FSize", "Scrollbars", "FColor", "FStyle", "HFName", "HFSize", "HFColor",
+                                "HFStyle", "ReadOnly", "Alignment", "Ausrichtung", "DataBase"}));
+    QCOMPARE(keysOf(sectionLines(text, "DBTreeList_1")),
+             QStringList({"Name", "Parent", "Index", "QXID", "DBIndex", "Keyfield", "ParentField", "Felder", "DB",
+                          "Alignment", "DragDrop"})
+                 + box + font);
+    QVERIFY(sectionLines(text, "DBTreeList_1").contains("QXID=QXParent"));
+    QCOMPARE(keysOf(sectionLines(text, "StringGrid_1")),
+             QStringList({"Parent", "Name"}) + box + QStringList({"Alignment"}) + font);
+    QCOMPARE(keysOf(sectionLines(text, "DBRadioGroup_1")),
+             QStringList({"Parent", "DataField", "Laenge", "Caption", "Desc"}) + box + colourFirst
+                 + QStringList({"Pflicht", "Items", "Columns"}));
+    QCOMPARE(keysOf(sectionLines(text, "View")), QStringList({"Parent"}) + box);
+    QCOMPARE(keysOf(sectionLines(text, "Tab")), QStringList({"Parent"}) + box + font);
+}
+
+void TestSaving::visitingOrderAndNumbering()
+{
+    Fixture home;
+    auto form = showMainForm();
+    form->FileNewItemClick();
+    TMaske *mask = form->activeMask();
+    QWidget *surface = mask->designSurface();
+
+    auto *first = qobject_cast<TDBGrid *>(mask->placeControl(6, surface, QPoint(10, 10)));
+    auto *label = qobject_cast<TLabel *>(mask->placeControl(1, surface, QPoint(10, 300)));
+    auto *fancy = new TFancyLabel(surface);
+    Components::setOwner(fancy, mask);
+    AutoName(fancy, mask);
+    fancy->setCaption(QStringLiteral("Nicht gespeichert"));
+    auto *second = qobject_cast<TDBGrid *>(mask->placeControl(6, surface, QPoint(300, 10)));
+    auto *label2 = qobject_cast<TLabel *>(mask->placeControl(1, surface, QPoint(10, 330)));
+    QVERIFY(first && second && label && label2);
+    label->setCaption(QStringLiteral("Erste"));
+    label2->setCaption(QStringLiteral("Zweite"));
+    label2->setFont(TFont{QStringLiteral("Arial"), 9, Colors::clRed,
+                          TFontStyles(fsStrikeOut) | fsItalic | fsBold});
+
+    QString text = savedText(mask);
+    // The grid named "DBGrid1" is the main grid and does not count.
+    QCOMPARE(first->objectName(), QStringLiteral("DBGrid1"));
+    QCOMPARE(sectionNames(text), QStringList({"Datenbank", "Style", "Browser", "Label_1", "DBBrowser_1", "Label_2"}));
+    QVERIFY(!text.contains(QLatin1String("Nicht gespeichert")));
+    QVERIFY(sectionLines(text, "Label_2").contains("Name=Zweite"));
+    QVERIFY(sectionLines(text, "Label_2").contains("FStyle=BIS"));
+    QVERIFY(sectionLines(text, "Label_2").contains("FColor=clRed"));
+
+    // Without "DBGrid1" every grid is numbered.
+    delete first;
+    text = savedText(mask);
+    QCOMPARE(sectionNames(text), QStringList({"Datenbank", "Style", "Label_1", "DBBrowser_1", "Label_2"}));
+}
+
+void TestSaving::pickListsAndSortLines()
+{
+    Fixture home;
+    auto form = showMainForm();
+    form->FileNewItemClick();
+    TMaske *mask = form->activeMask();
+    QWidget *surface = mask->designSurface();
+
+    auto *panelA = mask->placeControl(17, surface, QPoint(0, 0));
+    auto *panelB = mask->placeControl(17, surface, QPoint(0, 200));
+    auto *c1 = qobject_cast<TcxComboBox *>(mask->placeControl(3, panelA, QPoint(10, 10)));
+    auto *c2 = qobject_cast<TcxComboBox *>(mask->placeControl(3, panelB, QPoint(10, 10)));
+    auto *c3 = qobject_cast<TcxComboBox *>(mask->placeControl(3, panelB, QPoint(10, 40)));
+    auto *c4 = qobject_cast<TcxComboBox *>(mask->placeControl(3, panelB, QPoint(10, 70)));
+    QVERIFY(c1 && c2 && c3 && c4);
+    c1->setHint(QStringLiteral("Anreden"));
+    c1->setItems({QStringLiteral("Herr"), QStringLiteral("Frau")});
+    c2->setHint(QStringLiteral("Anreden"));
+    c2->setItems({QStringLiteral("Firma")});
+    c3->setHint(QStringLiteral("Leer")); // no items: no block
+    c4->setHint(QStringLiteral("Länder"));
+    c4->setItems({QStringLiteral("Deutschland"), QStringLiteral("Österreich")});
+
+    const QString text = savedText(mask);
+    // The blocks stand before the header, each name once, the first one's items.
+    QVERIFY2(text.startsWith(QStringLiteral("[Anreden]\nHerr\nFrau\n\n[Länder]\nDeutschland\nÖsterreich\n\n"
+                                            "[Datenbank]\n")),
+             qPrintable(text.left(120)));
+    QVERIFY(!text.contains(QLatin1String("[Leer]")));
+    QCOMPARE(text.count(QLatin1String("[Anreden]")), 1);
+    // c1 is first on panel A, c2 first on panel B: both have tab order 0,
+    // and the later one keeps the line.
+    QCOMPARE(sectionLines(text, "Sort"), QStringList({"0=1-CFeld2", "1=1-CFeld3", "2=1-CFeld4"}));
+
+    // The file is Windows-1252 with CR LF.
+    const QByteArray bytes = MaskWriter::MaskFileBytes(mask);
+    QVERIFY(bytes.contains("\xd6sterreich\r\n"));
+    QVERIFY(!bytes.contains("\n\n"));
+}
+
+void TestSaving::backupAndFailure()
+{
+    Fixture home;
+    ScriptedDialogs dialogs;
+    auto form = showMainForm();
+    const QString file = home.path(QStringLiteral("Kunden.dbm"));
+    const QString backup = home.path(QStringLiteral("Kunden.dbm_bak"));
+    writeMask(file, QStringLiteral("[Datenbank]\nTitel=Alt\n[Label_1]\nName=eins\n"));
+
+    TMaske *mask = form->LoadMask(file);
+    auto *label = component<TLabel>(mask, "Label1");
+    label->setCaption(QStringLiteral("zwei"));
+    mask->setModified(true);
+    const QByteArray original = readFileBytes(file);
+    clickTool(form.get(), "FileSaveItem");
+    QCOMPARE(readFileBytes(backup), original);
+    const QByteArray second = readFileBytes(file);
+    QVERIFY(second.contains("Name=zwei\r\n"));
+    QVERIFY(!mask->Modified());
+
+    // Saving twice keeps only the state before the second save.
+    label->setCaption(QStringLiteral("drei"));
+    clickTool(form.get(), "FileSaveItem");
+    QCOMPARE(readFileBytes(backup), second);
+    QVERIFY(readFileBytes(file).contains("Name=drei\r\n"));
+
+    // A target that cannot be written: the user reads why, the mask stays
+    // changed and nothing on disk is touched.
+    const QString blocked = home.path(QStringLiteral("Ordner.dbm"));
+    QVERIFY(QDir().mkpath(blocked));
+    mask->setPath(blocked);
+    mask->setModified(true);
+    dialogs.messageAnswers << mrOk;
+    clickTool(form.get(), "FileSaveItem");
+    QCOMPARE(dialogs.messages.size(), 1);
+    QCOMPARE(dialogs.messages.at(0).type, mtError);
+    QVERIFY(dialogs.messages.at(0).text.contains(QLatin1String("Ordner.dbm")));
+    QVERIFY(mask->Modified());
+    QVERIFY(QFileInfo(blocked).isDir());
+    QVERIFY(!QFileInfo::exists(home.path(QStringLiteral("Ordner.dbm_bak"))));
+}
+
+QTEST_MAIN(TestSaving)
+#include "test_saving.moc"
