@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "AppPaths.h"
+#include "CliCommands.h"
 #include "Version.h"
 
 namespace {
@@ -17,10 +18,26 @@ QString usage()
         "\n"
         "Ferolith-Batchwerkzeug: bearbeitet Masken (.dbm) ohne sichtbares Fenster.\n"
         "\n"
+        "Befehle:\n"
+        "  roundtrip EIN.dbm AUS.dbm   Maske laden und wie \"Speichern\" wieder schreiben\n"
+        "  dump EIN.dbm                Maske als JSON-Objekt ausgeben\n"
+        "  render EIN.dbm AUS.png      Maske im Run Mode als PNG-Bild speichern\n"
+        "\n"
         "Optionen:\n"
         "  -h, --help       diese Hilfe anzeigen\n"
         "  -v, --version    Version anzeigen\n"
         "  --ini DATEI      Einstellungsdatei statt der voreingestellten verwenden\n");
+}
+
+// The offscreen platform reports what it cannot do (raise a window, size
+// hints); a batch tool has no use for that noise on its error channel.
+void quietMessages(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtWarningMsg
+        && (message.startsWith(QLatin1String("This plugin does not support"))
+            || message.contains(QLatin1String("XDG_RUNTIME_DIR"))))
+        return;
+    fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
 }
 
 } // namespace
@@ -30,6 +47,7 @@ int main(int argc, char *argv[])
     // No window is ever shown: run on the offscreen platform unless told otherwise.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(quietMessages);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("ferolith"));
     QApplication::setApplicationVersion(Version::text());
@@ -57,6 +75,12 @@ int main(int argc, char *argv[])
         out << "ferolith-cli " << Version::text() << Qt::endl;
         return 0;
     }
+    if (command == QLatin1String("roundtrip"))
+        return CliCommands::roundtrip(args, out, err);
+    if (command == QLatin1String("dump"))
+        return CliCommands::dump(args, out, err);
+    if (command == QLatin1String("render"))
+        return CliCommands::render(args, out, err);
     err << "ferolith-cli: unbekannter Befehl „" << command << "“ (siehe --help)" << Qt::endl;
     return 2;
 }

@@ -112,7 +112,9 @@ int main(int argc, char *argv[])
     } else {
         mainForm.showMaximized();
     }
-    mainForm.FileNewItemClick();
+    // A mask named on the command line is shown; otherwise a new one.
+    if (args.isEmpty())
+        mainForm.FileNewItemClick();
     QApplication::processEvents();
     const QString target = QFileInfo(screenshot).absoluteFilePath();
     if (!mainForm.grab().save(target)) {

@@ -48,6 +48,7 @@ TMainForm::TMainForm(const QStringList &arguments, QWidget *parent)
     createClientArea();
     createToolBars();
     createDesignTools();
+    createModeCommands();
     FormCreate();
 }
 

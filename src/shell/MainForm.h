@@ -10,6 +10,7 @@
 
 #include "EditStyle.h"
 #include "MaskHost.h"
+#include "MaskLoader.h"
 #include "Types.h"
 #include "UserDialogs.h"
 
@@ -33,7 +34,7 @@ class TcxEditStyleController;
 
 // The main window: menus, tool bars, the tab strip and the MDI area holding
 // the mask windows.
-class TMainForm : public QMainWindow, public TMaskHost
+class TMainForm : public QMainWindow, public TMaskHost, public TMaskLoaderHost
 {
     Q_OBJECT
 public:
@@ -71,7 +72,10 @@ public:
 
     QString BaseFolder() const;
 
-    TMaske *OpenMaskWindow(const QString &fileName);
+    // TMaskLoaderHost: what loading a mask asks of the main window.
+    TMaske *OpenMaskWindow(const QString &fileName) override;
+    void selectResolution(TMaske *mask, const QString &text) override;
+    QString DatabasePath() const override;
 
     // The main window's own engine, which carries the settings between masks.
     TFormDesigner *FormDesigner1() const { return m_formDesigner1; }
@@ -107,8 +111,16 @@ public:
     void PopItemsClick(int tag);
     void SettingsItemClick();
     void StyleItemClick();
-    void LoadMask(const QString &fileName);
+    // Loads a mask file into a new mask window (nullptr only without a file name).
+    TMaske *LoadMask(const QString &fileName);
     bool SaveMask(const QString &fileName);
+
+    // Edit mode, run mode and the resolution list (MainFormModes.cpp).
+    void EditMode1Click();
+    void RunMode1Click();
+    void dxBar1024x768Click();
+    void dxBarNormalClick();
+    QComboBox *resolutionList() const;
     void UpdateMenuItems();
 
 public Q_SLOTS:
@@ -147,6 +159,9 @@ private:
     void createElementsBar();
     void createStatusBar();
     void createModifyBar();
+
+    // MainFormModes.cpp
+    void createModeCommands();
 
     // MainFormDesign.cpp
     void createDesignTools();

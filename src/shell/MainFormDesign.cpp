@@ -18,6 +18,8 @@
 #include "Graphics.h"
 #include "Grids.h"
 #include "MainForm.h"
+
+#include <QSignalBlocker>
 #include "Maske.h"
 #include "MyBtn.h"
 #include "ObjectInspector.h"
@@ -41,6 +43,7 @@ void TMainForm::createDesignTools()
     m_frmSetup->mainDesigner = [this] { return m_formDesigner1; };
     // The tool windows made at start-up, in this order: inspector, alignment.
     m_objInsp = new TObjInsp(this);
+    m_objInsp->baseFolder = [this] { return BaseFolder(); };
     m_formAlignment = new TFormAlignment(this);
     m_memoDlg = new TMemoDlg(this);
     m_formAlignment->activeDesigner = [this]() -> TCustomFormDesigner * { return activeDesigner(); };
@@ -301,6 +304,11 @@ void TMainForm::maskActivated(TMaske *mask, TcxEditStyleController *styleControl
     m_currentStyleController = styleController;
     m_objInsp->setActiveMask(mask);
     UpdateBtn();
+    // The list shows what the mask is designed for (nothing for a size it
+    // does not offer).
+    const QSignalBlocker block(MaskResList);
+    MaskResList->setCurrentIndex(
+        MaskResList->findText(QStringLiteral("%1x%2").arg(mask->ScreenWidth()).arg(mask->ScreenHeight())));
 }
 
 void TMainForm::UpdateComponents()

@@ -2,13 +2,13 @@
 #include "MainForm.h"
 
 #include "FileNames.h"
-#include "IniFile.h"
+#include "FormDesigner.h"
+#include "MaskLoader.h"
+#include "MaskWriter.h"
 #include "Maske.h"
 
-#include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
-#include <QScreen>
+#include <QPointer>
 
 void TMainForm::FileNewItemClick()
 {
@@ -17,16 +17,28 @@ void TMainForm::FileNewItemClick()
 
 void TMainForm::FileOpenItemClick()
 {
-    if (!OpenDialog.execute(this))
+    // The engine stays out of the dialog's way; the mask gets it back when
+    // the dialog is gone.
+    QPointer<TMaske> previous = activeMask();
+    if (previous)
+        previous->FormDesigner2()->setActive(false);
+    const bool chosen = OpenDialog.execute(this);
+    if (previous)
+        previous->FormDesigner2()->setActive(true);
+    if (!chosen)
         return;
     const QStringList files = OpenDialog.files.isEmpty() ? QStringList{OpenDialog.fileName} : OpenDialog.files;
     for (const QString &file : files)
         LoadMask(file);
 }
 
-void TMainForm::LoadMask(const QString &fileName)
+TMaske *TMainForm::LoadMask(const QString &fileName)
 {
-    OpenMaskWindow(fileName);
+    if (fileName.isEmpty())
+        return nullptr;
+    // Never refused: a file that cannot be read gives an empty mask, as the
+    // runtime would show it.
+    return MaskLoader::LoadMask(*this, fileName);
 }
 
 void TMainForm::FileCloseItemClick()
@@ -54,7 +66,10 @@ void TMainForm::FileSaveAsItemClick()
     if (!mask)
         return;
     SaveDialog1.fileName = mask->windowTitle();
-    if (!SaveDialog1.execute(this))
+    mask->FormDesigner2()->setActive(false);
+    const bool chosen = SaveDialog1.execute(this);
+    mask->FormDesigner2()->setActive(true);
+    if (!chosen)
         return;
     const QString fileName = SaveDialog1.fileName;
     mask->setWindowTitle(QFileInfo(fileName).fileName());
@@ -68,45 +83,11 @@ bool TMainForm::SaveMask(const QString &fileName)
     TMaske *mask = activeMask();
     if (!mask)
         return false;
-
-    // The previous state of the file stays behind as the backup; an older
-    // backup makes way for it.
-    if (QFile::exists(fileName)) {
-        const QString backup = FileNames::changeFileExt(fileName, QStringLiteral(".dbm_bak"));
-        QFile::remove(backup);
-        QFile::rename(fileName, backup);
-    }
-
-    TMemIniFile ini;
-    ini.writeString(QStringLiteral("Datenbank"), QStringLiteral("Tabelle"), mask->Tabelle());
-    ini.writeString(QStringLiteral("Datenbank"), QStringLiteral("Titel"), mask->Titel());
-    ini.writeInteger(QStringLiteral("Datenbank"), QStringLiteral("Typ"), mask->Typ());
-
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    ini.writeInteger(QStringLiteral("DatenBank"), QStringLiteral("Pixel"), screen ? screen->depth() : 32);
-    ini.writeInteger(QStringLiteral("DatenBank"), QStringLiteral("Height"), mask->DesignHeight());
-    ini.writeInteger(QStringLiteral("DatenBank"), QStringLiteral("Width"), mask->DesignWidth());
-
-    const QString style = QStringLiteral("Style");
-    ini.writeInteger(style, QStringLiteral("BorderStyle"), 4);
-    ini.writeInteger(style, QStringLiteral("ButtonStyle"), 0);
-    ini.writeBool(style, QStringLiteral("ButtonTrans"), false);
-    ini.writeInteger(style, QStringLiteral("Color"), 0);
-    ini.writeBool(style, QStringLiteral("Shadow"), false);
-    ini.writeBool(style, QStringLiteral("Hottrack"), false);
-    ini.writeBool(style, QStringLiteral("EdgeLeft"), true);
-    ini.writeBool(style, QStringLiteral("EdgeRight"), true);
-    ini.writeBool(style, QStringLiteral("EdgeTop"), true);
-    ini.writeBool(style, QStringLiteral("EdgeBottom"), true);
-
     QString error;
-    if (!ini.save(fileName, &error)) {
-        UserDialogs::instance().messageDlg(
-            this, QStringLiteral("Die Maske „%1“ konnte nicht gespeichert werden.\n%2").arg(fileName, error), mtError,
-            mbOK);
+    if (!MaskWriter::SaveMask(mask, fileName, &error)) {
+        UserDialogs::instance().messageDlg(this, error, mtError, mbOK);
         return false;
     }
-    mask->setModified(false);
     return true;
 }
 

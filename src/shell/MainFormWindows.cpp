@@ -1,6 +1,8 @@
 // The mask windows: MDI area, tab strip, window list and the Window menu.
 #include "MainForm.h"
 
+#include <QComboBox>
+
 #include "Colors.h"
 #include "FormDesigner.h"
 #include "Maske.h"
@@ -203,10 +205,12 @@ void TMainForm::UpdateMenuItems()
 {
     const bool hasMask = activeMask() != nullptr;
     for (QAction *item : {FileCloseItem, FileSaveItem, FileSaveAsItem, WindowCascadeItem, WindowTileItem,
-                          WindowArrangeItem, WindowMinimizeItem}) {
+                          WindowArrangeItem, WindowMinimizeItem, EditModeItem, RunModeItem}) {
         if (item)
             item->setEnabled(hasMask);
     }
+    if (MaskResList)
+        MaskResList->setEnabled(hasMask);
 }
 
 void TMainForm::WindowCascadeItemClick()

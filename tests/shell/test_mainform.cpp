@@ -211,6 +211,8 @@ void TestMainForm::onlyTheFirstCommandLineArgumentIsOpened()
 {
     const QString first = m_dir.filePath(QStringLiteral("Kunden.dbm"));
     const QString second = m_dir.filePath(QStringLiteral("Artikel.dbm"));
+    QVERIFY(writeFileBytes(first, "[Datenbank]\r\nTitel=Kundenstamm\r\n"));
+    QVERIFY(writeFileBytes(second, "[Datenbank]\r\nTitel=Artikelstamm\r\n"));
     TMainForm form(QStringList{first, second});
     QCOMPARE(form.mdiArea()->subWindowList().size(), 0);
     form.show();
@@ -220,9 +222,10 @@ void TestMainForm::onlyTheFirstCommandLineArgumentIsOpened()
     QCOMPARE(windows.size(), 1);
     auto *mask = qobject_cast<TMaske *>(windows.at(0));
     QVERIFY(mask);
-    QCOMPARE(withoutSize(mask->windowTitle()), QStringLiteral("Kunden.dbm"));
+    // The caption shows the mask's title; the path stays the file's.
+    QCOMPARE(withoutSize(mask->windowTitle()), QStringLiteral("Kundenstamm"));
     QCOMPARE(mask->Path(), first);
-    QCOMPARE(tabTexts(form.tabSet()), QStringList{QStringLiteral("Kunden.dbm")});
+    QCOMPARE(tabTexts(form.tabSet()), QStringList{QStringLiteral("Kundenstamm")});
     // The status bar shows where the active mask lives.
     auto *status = form.findChild<QLabel *>(QStringLiteral("StatusPath"));
     QVERIFY(status);

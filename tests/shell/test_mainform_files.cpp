@@ -83,6 +83,7 @@ void TestMainFormFiles::openedAndSavedFilesSurviveARestart()
     QVERIFY(QDir(m_work->path()).mkpath(QStringLiteral("neu")));
     const QString opened = path(QStringLiteral("Kunden.dbm"));
     const QString saved = path(QStringLiteral("neu/Lager.dbm"));
+    QVERIFY(writeFileBytes(opened, "[Datenbank]\r\nTitel=Kundenstamm\r\n"));
     {
         ScriptedDialogs dialogs;
         dialogs.fileAnswers << QStringList{opened} << QStringList{saved};
@@ -91,8 +92,8 @@ void TestMainFormFiles::openedAndSavedFilesSurviveARestart()
         clickTool(form.get(), "FileSaveAsItem");
         QCOMPARE(dialogs.fileDialogs.size(), 2);
         QCOMPARE(dialogs.fileDialogs.at(1).kind, TFileDialog::Save);
-        // The dialog proposes the caption of the mask.
-        QCOMPARE(withoutSize(dialogs.fileDialogs.at(1).fileName), QStringLiteral("Kunden.dbm"));
+        // The dialog proposes the caption of the mask, which shows its title.
+        QCOMPARE(withoutSize(dialogs.fileDialogs.at(1).fileName), QStringLiteral("Kundenstamm"));
         QCOMPARE(form->SaveDialog1.initialDir, path(QStringLiteral("neu")) + QDir::separator());
         QVERIFY(form->close());
         QCOMPARE(dialogs.unexpected, 0);
@@ -124,6 +125,8 @@ void TestMainFormFiles::openDialogOpensEverySelectedFile()
     ScriptedDialogs dialogs;
     const QStringList files{path(QStringLiteral("c.dbm")), path(QStringLiteral("a.dbm")),
                             path(QStringLiteral("b.dbm"))};
+    for (const QString &file : files)
+        QVERIFY(writeFileBytes(file, "[Datenbank]\r\nTitel=" + QFileInfo(file).fileName().toLatin1() + "\r\n"));
     dialogs.fileAnswers << files << QStringList();
     auto form = showMainForm();
     clickTool(form.get(), "FileOpenItem");
@@ -171,12 +174,12 @@ void TestMainFormFiles::newMaskIsSavedInTheCurrentFolder()
     QCOMPARE(written.readString(QStringLiteral("Datenbank"), QStringLiteral("Tabelle"), QString()),
              QStringLiteral("KUNDEN"));
     QCOMPARE(written.readInteger(QStringLiteral("Datenbank"), QStringLiteral("Typ"), -1), 2);
-    QCOMPARE(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Height"), -1), mask->DesignHeight());
-    QCOMPARE(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Width"), -1), mask->DesignWidth());
+    QCOMPARE(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Height"), -1), mask->ScreenHeight());
+    QCOMPARE(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Width"), -1), mask->ScreenWidth());
     QVERIFY(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Pixel"), 0) > 0);
     const QStringList style = written.readSectionValues(QStringLiteral("Style"));
     QCOMPARE(style, (QStringList{QStringLiteral("BorderStyle=4"), QStringLiteral("ButtonStyle=0"),
-                                 QStringLiteral("ButtonTrans=0"), QStringLiteral("Color=0"),
+                                 QStringLiteral("ButtonTrans=0"), QStringLiteral("Color=clDefault"),
                                  QStringLiteral("Shadow=0"), QStringLiteral("Hottrack=0"),
                                  QStringLiteral("EdgeLeft=1"), QStringLiteral("EdgeRight=1"),
                                  QStringLiteral("EdgeTop=1"), QStringLiteral("EdgeBottom=1")}));

@@ -1,0 +1,111 @@
+// Edit mode and run mode, and the resolution list that sizes the active mask.
+#include <QComboBox>
+#include <QtTest>
+
+#include "AppPaths.h"
+#include "Control.h"
+#include "FormDesigner.h"
+#include "ObjectInspector.h"
+#include "TestSupport.h"
+#include "helper_shell.h"
+
+using namespace ShellTest;
+
+class TestModes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup() { flushDeletes(); }
+    void runModeAndBack();
+    void resolutionListSizesTheMask();
+
+private:
+    QTemporaryDir m_dir;
+};
+
+void TestModes::initTestCase()
+{
+    QVERIFY(m_dir.isValid());
+    AppPaths::setSettingsFileOverride(m_dir.filePath(QStringLiteral("ferolith.ini")));
+}
+
+void TestModes::runModeAndBack()
+{
+    auto form = showMainForm();
+    QMenu *options = form->findChild<QMenu *>(QStringLiteral("OptionsMenu"));
+    QVERIFY(options);
+    // Without a mask there is nothing to switch.
+    QVERIFY(!action(form.get(), "RunModeItem")->isEnabled());
+
+    clickTool(form.get(), "FileNewItem");
+    TMaske *mask = form->activeMask();
+    QWidget *edit = mask->placeControl(2, mask->designSurface(), QPoint(20, 20));
+    QVERIFY(TControl::from(edit)->isDesigning());
+    form->showObjectInspector();
+
+    openMenu(form.get(), options);
+    clickMenuItem(options, action(form.get(), "RunModeItem"));
+    QVERIFY(!mask->FormDesigner2()->Active());
+    QVERIFY(!TControl::from(edit)->isDesigning()); // the controls work as at run time
+    QVERIFY(!form->ObjInsp()->isVisible());
+    for (int i : {TMainForm::EditMenuBar, TMainForm::FontBar, TMainForm::ElementsBar, TMainForm::ModifyMenuBar})
+        QVERIFY2(!form->bar(i)->isVisible(), qPrintable(form->bar(i)->windowTitle()));
+    for (int i : {TMainForm::MainMenuBar, TMainForm::FileMenuBar, TMainForm::StatusBar})
+        QVERIFY2(form->bar(i)->isVisible(), qPrintable(form->bar(i)->windowTitle()));
+
+    openMenu(form.get(), options);
+    clickMenuItem(options, action(form.get(), "EditModeItem"));
+    QVERIFY(mask->FormDesigner2()->Active());
+    QVERIFY(TControl::from(edit)->isDesigning());
+    QVERIFY(form->ObjInsp()->isVisible());
+    for (int i = 0; i < TMainForm::BarCount; ++i)
+        QVERIFY2(form->bar(i)->isVisible(), qPrintable(form->bar(i)->windowTitle()));
+}
+
+void TestModes::resolutionListSizesTheMask()
+{
+    auto form = showMainForm();
+    QComboBox *list = form->resolutionList();
+    QCOMPARE(list->count(), 7);
+    QCOMPARE(list->itemText(2), QStringLiteral("1152x869"));
+    clickTool(form.get(), "FileNewItem");
+    TMaske *mask = form->activeMask();
+    QVERIFY(list->isEnabled());
+    QVERIFY(!mask->Modified());
+
+    // The first entry, chosen with the keyboard.
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Home);
+    QCOMPARE(list->currentText(), QStringLiteral("800x600"));
+    QCOMPARE(mask->size(), QSize(815, 473));
+    QVERIFY(mask->windowTitle().startsWith(QLatin1String("799 x 434")));
+    QCOMPARE(mask->DesignHeight(), 473);
+    QCOMPARE(mask->DesignWidth(), 800);
+    QCOMPARE(mask->ScreenHeight(), 600);
+    QVERIFY(mask->Modified());
+    // The scroll ranges follow the main window: its width, its height less 127.
+    QCOMPARE(mask->scrollRanges(), QSize(form->width(), form->height() - 127));
+
+    // "1152x869" keeps its text's numbers for the file, the table's for the window.
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Down);
+    QCOMPARE(list->currentText(), QStringLiteral("1152x869"));
+    QCOMPARE(mask->size(), QSize(1167, 737));
+    QCOMPARE(mask->ScreenHeight(), 869);
+    QCOMPARE(mask->DesignHeight(), 737);
+
+    // Another mask shows its own resolution in the list.
+    clickTool(form.get(), "FileNewItem");
+    TMaske *second = form->activeMask();
+    QVERIFY(second != mask);
+    // (The screen it was made on, which the list may not offer.)
+    QCOMPARE(list->currentIndex(),
+             list->findText(QStringLiteral("%1x%2").arg(second->ScreenWidth()).arg(second->ScreenHeight())));
+    form->mdiArea()->setActiveSubWindow(mask);
+    QCOMPARE(list->currentText(), QStringLiteral("1152x869"));
+}
+
+QTEST_MAIN(TestModes)
+#include "test_modes.moc"
