@@ -8,10 +8,23 @@
 
 class QCloseEvent;
 class TAdvOfficePage;
+class TAdvOfficePager;
 class TMaskHost;
 struct TDesignMessage;
 class TcxEditStyleController;
 class TFormDesigner;
+
+// What the loader reads from the table settings file of the mask's table.
+struct TTableSettings
+{
+    QString CadPath; // ends with a separator when set
+    QString Index;
+    QString Dateizaehler;
+    QString Fokus;
+    QString Felder;
+    QStringList AutoFill;
+    QStringList Default;
+};
 
 // A mask window: one data-entry screen inside the main window. The caption is
 // the file name part of Path(); the main window sets both.
@@ -38,8 +51,26 @@ public:
     int DesignWidth() const { return m_designWidth; }
     void setDesignWidth(int width) { m_designWidth = width; }
 
+    // The screen the mask is designed for, as the resolution list names it
+    // ("1152x869" keeps its 869); this is what the mask file stores.
+    int Pixel() const { return m_pixel; }
+    void setPixel(int pixel) { m_pixel = pixel; }
+    int ScreenHeight() const { return m_screenHeight; }
+    void setScreenHeight(int height) { m_screenHeight = height; }
+    int ScreenWidth() const { return m_screenWidth; }
+    void setScreenWidth(int width) { m_screenWidth = width; }
+
+    const TTableSettings &TableSettings() const { return m_tableSettings; }
+    void setTableSettings(const TTableSettings &settings) { m_tableSettings = settings; }
+
     bool Modified() const { return m_modified; }
     void setModified(bool modified) { m_modified = modified; }
+
+    // The size the scroll box scrolls over (the surface never gets smaller).
+    void setScrollRanges(int horizontal, int vertical);
+    QSize scrollRanges() const;
+    // Scrolls both bars back to 0.
+    void scrollToOrigin();
 
     // The container controls are placed on ("Maske"), inside the scroll box.
     QWidget *designSurface() const { return m_surface; }
@@ -78,6 +109,12 @@ public:
     // preview image the image), or nullptr when nothing is made.
     QWidget *placeControl(int code, QWidget *container, const QPoint &pos);
 
+    // Binds the mask's page control handlers to a pager on this mask: the
+    // placement does it for a new pager, the mask loader for a loaded one.
+    void wirePager(TAdvOfficePager *pager);
+    // The pager the user is dragging with the mouse, or nullptr.
+    TAdvOfficePager *draggedPager() const;
+
 Q_SIGNALS:
     void pathChanged(const QString &path);
 
@@ -95,6 +132,9 @@ private:
     void FormDesigner2DeleteControl(QWidget *control);
     void FormDesigner2KeyDown(int &key, Qt::KeyboardModifiers shift);
     void FormDesigner2Message(TDesignMessage &msg);
+    // A page control's mouse events (wirePager); positions are global.
+    void AdvOfficePager1MouseMove(TAdvOfficePager *Sender, Qt::MouseButtons shift, const QPoint &pos);
+    void AdvOfficePager1MouseUp(TAdvOfficePager *Sender, Qt::MouseButton button, const QPoint &pos);
     void wireDesigner();
     void applyToolFont(QWidget *control);
 
@@ -105,6 +145,10 @@ private:
     int m_typ = 0;
     int m_designHeight = 600;
     int m_designWidth = 800;
+    int m_pixel = 32;
+    int m_screenHeight = 600;
+    int m_screenWidth = 800;
+    TTableSettings m_tableSettings;
     bool m_modified = false;
     TMaskHost *m_host = nullptr;
     QStringList m_nameList1;

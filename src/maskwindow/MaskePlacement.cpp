@@ -192,6 +192,7 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
         placeholderHint();
         pager->addPage(NewOPage(QStringLiteral("Seite1")));
         pager->addPage(NewOPage(QStringLiteral("Seite2")));
+        wirePager(pager);
         toolFont = false;
         break;
     }

@@ -131,6 +131,9 @@ TObjInsp::TObjInsp(QWidget *parent)
 
     m_notebook->setCurrentIndex(0);
     m_header->setText(QString());
+    // The palette row sits right under the component list.
+    buildPalette();
+    layout->insertWidget(layout->indexOf(bar) + 1, m_palette);
 }
 
 TObjInsp::~TObjInsp() = default;
@@ -191,6 +194,7 @@ void TObjInsp::UpdateComponents()
         m_tree->expandAll();
     }
     syncTreeToControl();
+    syncPalette();
 }
 
 void TObjInsp::showTreePopup()
@@ -242,6 +246,7 @@ void TObjInsp::syncTreeToControl()
 
 void TObjInsp::selectPage()
 {
+    endBrowsing();
     m_current = nullptr;
     QList<QWidget *> selection;
     if (m_mask)
@@ -257,6 +262,7 @@ void TObjInsp::selectPage()
                       : selection.size() > 1 ? QStringLiteral("%1 Elemente").arg(selection.size())
                                              : QString());
     syncTreeToControl();
+    syncPalette();
     if (page == 0)
         return;
 

@@ -5,6 +5,9 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
+
+class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
@@ -51,6 +54,18 @@ public:
     // Every page caption in page order.
     static const QStringList &pageCaptions();
 
+    // The folder below which the pick-list files live; the main window
+    // hands in its base folder. Unset, the program's folder serves.
+    std::function<QString()> baseFolder;
+    // The file that holds the pick list of the given name.
+    QString pickListFile(const QString &name) const;
+
+    // The inspector's own palette ("Componet Menu"): one button per page.
+    QWidget *componetMenu() const { return m_palette; }
+    QToolButton *paletteButton(const QString &pageCaption) const { return m_paletteButtons.value(pageCaption); }
+    // True while a palette button shows a page only to look at.
+    bool isBrowsing() const { return m_browsing; }
+
 private:
     // ObjectInspector.cpp: frame, component list, page selection
     void dxBarTreeViewChange(QTreeWidgetItem *item);
@@ -73,6 +88,13 @@ private:
     static const QStringList &fieldTypeItems();
     static const QStringList &charCaseItems();
 
+    // ObjectInspectorPalette.cpp
+    void buildPalette();
+    void BarButton1Click();
+    void BarButton2Click(QToolButton *Sender);
+    void syncPalette();
+    void endBrowsing();
+
     // ObjectInspectorPagesText.cpp
     void buildLabelPages();
     void buildEditPages();
@@ -89,6 +111,7 @@ private:
     void MemoFieldnameChange();
     void CheckFieldNameChange();
     void CheckColorBtnClick();
+    void ComboPullDownFileButtonClick();
 
     // ObjectInspectorPagesButton.cpp
     void buildButtonPage();
@@ -141,6 +164,11 @@ private:
     QFrame *m_treePopup = nullptr;
     QTreeWidget *m_tree = nullptr;
     QLabel *m_header = nullptr;
+    QWidget *m_palette = nullptr;
+    QButtonGroup *m_paletteGroup = nullptr;
+    QHash<QString, QToolButton *> m_paletteButtons;
+    bool m_browsing = false;
+    QPointer<QWidget> m_browsedContent;
 
     // "TLabel"
     QLineEdit *m_labelCaption = nullptr;
@@ -175,6 +203,7 @@ private:
     QComboBox *m_comboCharCase = nullptr;
     QLineEdit *m_comboFieldCaption = nullptr;
     QLineEdit *m_comboPullDownFile = nullptr;
+    QToolButton *m_comboPullDownFileButton = nullptr;
     // "TcxMemo"
     QLineEdit *m_memoFieldname = nullptr;
     QCheckBox *m_memoPflichtfeld = nullptr;

@@ -2,23 +2,31 @@
 // memos and check boxes.
 #include "ObjectInspector.h"
 
+#include "AppPaths.h"
 #include "CheckDialog.h"
 #include "Edits.h"
 #include "Label.h"
 #include "Maske.h"
+#include "MemoDialog.h"
 #include "MyBtn.h"
+#include "TextCodec.h"
 #include "UserDialogs.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSaveFile>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -28,6 +36,16 @@ const QStringList &labelAlignmentItems()
     static const QStringList items = {QStringLiteral("Links angeordnet"), QStringLiteral("Rechts angeordnet"),
                                       QStringLiteral("Zentriert")};
     return items;
+}
+
+// A pick-list file holds one item per line; a line break after the last
+// item opens no empty one.
+QStringList splitLines(QString text)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    if (text.endsWith(QLatin1Char('\n')))
+        text.chop(1);
+    return text.isEmpty() ? QStringList() : text.split(QLatin1Char('\n'));
 }
 
 // Combos that mirror an enumeration show nothing for a value they do not list.
@@ -106,7 +124,22 @@ void TObjInsp::buildEditPages()
     m_comboPflichtfeld = addCheck(f, QStringLiteral("Pflichtfeld"), QStringLiteral("ComboPflichtfeld"));
     m_comboReadOnly = addCheck(f, QStringLiteral("Nur lesen"), QStringLiteral("ComboReadOnly"));
     m_comboCharCase = addCombo(f, QStringLiteral("Schreibweise:"), QStringLiteral("ComboCharCase"), charCaseItems());
-    m_comboPullDownFile = addLine(f, QStringLiteral("Pulldowndatei:"), QStringLiteral("ComboPullDownFile"));
+    // The pick-list name, with the button that creates and edits its file.
+    auto *pullDownRow = new QWidget;
+    auto *pullDownLayout = new QHBoxLayout(pullDownRow);
+    pullDownLayout->setContentsMargins(0, 0, 0, 0);
+    pullDownLayout->setSpacing(2);
+    m_comboPullDownFile = new QLineEdit;
+    m_comboPullDownFile->setObjectName(QStringLiteral("ComboPullDownFile"));
+    m_comboPullDownFile->setMinimumWidth(60);
+    m_comboPullDownFileButton = new QToolButton;
+    m_comboPullDownFileButton->setObjectName(QStringLiteral("ComboPullDownFileButton"));
+    m_comboPullDownFileButton->setText(QStringLiteral("…"));
+    m_comboPullDownFileButton->setToolTip(QStringLiteral("Pulldowndatei bearbeiten"));
+    pullDownLayout->addWidget(m_comboPullDownFile, 1);
+    pullDownLayout->addWidget(m_comboPullDownFileButton);
+    f->addRow(QStringLiteral("Pulldowndatei:"), pullDownRow);
+    connect(m_comboPullDownFileButton, &QToolButton::clicked, this, &TObjInsp::ComboPullDownFileButtonClick);
     m_comboFieldCaption = addLine(f, QStringLiteral("Feldtitel im Browser:"), QStringLiteral("ComboFieldCaption"));
     for (QWidget *w : {static_cast<QWidget *>(m_comboFieldName), static_cast<QWidget *>(m_comboFieldTyp),
                        static_cast<QWidget *>(m_comboFieldSize), static_cast<QWidget *>(m_comboPflichtfeld),
@@ -339,4 +372,76 @@ void TObjInsp::CheckColorBtnClick()
         markModified();
     }
     delete dlg;
+}
+
+// ---- pick-list files ----
+
+// Pick lists are plain text files in the folder "PullDown" below the base
+// folder, one per list name, so several masks can share one list.
+QString TObjInsp::pickListFile(const QString &name) const
+{
+    QString fileName = name.trimmed();
+    if (fileName.isEmpty())
+        return QString();
+    if (QFileInfo(fileName).suffix().isEmpty())
+        fileName += QStringLiteral(".txt");
+    const QString base = baseFolder ? baseFolder() : AppPaths::baseFolder();
+    return QDir::toNativeSeparators(AppPaths::withTrailingSeparator(base) + QStringLiteral("PullDown")
+                                    + QDir::separator() + fileName);
+}
+
+void TObjInsp::ComboPullDownFileButtonClick()
+{
+    auto *combo = qobject_cast<TcxComboBox *>(m_current.data());
+    const QString path = pickListFile(m_comboPullDownFile->text());
+    if (!combo || m_browsing || path.isEmpty())
+        return;
+    UserDialogs &dialogs = UserDialogs::instance();
+    const auto failed = [&](const QString &text) {
+        dialogs.messageDlg(this, text.arg(QDir::toNativeSeparators(path)), mtError, mbOK);
+    };
+
+    if (!QFileInfo::exists(path)) {
+        if (dialogs.messageDlg(this, QStringLiteral("Dateiname nicht vorhanden. Soll eine neue angelegt werden?"),
+                               mtConfirmation, mbYes | mbNo)
+            != mrYes)
+            return;
+        QFile created(path);
+        if (!QDir().mkpath(QFileInfo(path).absolutePath()) || !created.open(QIODevice::WriteOnly)) {
+            failed(QStringLiteral("Die Datei \"%1\" konnte nicht angelegt werden."));
+            return;
+        }
+    }
+    if (dialogs.messageDlg(this, QStringLiteral("Wollen Sie die Datei editieren?"), mtConfirmation, mbYes | mbNo)
+        != mrYes)
+        return;
+
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        failed(QStringLiteral("Die Datei \"%1\" konnte nicht gelesen werden."));
+        return;
+    }
+    const QStringList before = splitLines(TextCodec::decodeFileText(file.readAll()));
+    file.close();
+
+    // Without a combo box the list editor carries its text in its hint, so
+    // the combo only changes once the file is written.
+    TMemoDlg editor(this);
+    editor.setComboBox(nullptr);
+    editor.setMemoHint(before.join(QLatin1Char('\n')));
+    if (dialogs.execDialog(&editor) != QDialog::Accepted)
+        return;
+    const QStringList items = splitLines(editor.memoHint());
+
+    QString text;
+    for (const QString &item : items)
+        text += item + QStringLiteral("\r\n");
+    QSaveFile out(path);
+    const QByteArray bytes = TextCodec::encodeWindows1252(text);
+    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit()) {
+        failed(QStringLiteral("Die Datei \"%1\" konnte nicht geschrieben werden."));
+        return;
+    }
+    combo->setItems(items);
+    markModified();
 }
