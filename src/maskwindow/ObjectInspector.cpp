@@ -131,9 +131,15 @@ TObjInsp::TObjInsp(QWidget *parent)
 
     m_notebook->setCurrentIndex(0);
     m_header->setText(QString());
-    // The palette row sits right under the component list.
+    // The palette row sits right under the component list, set off from
+    // the page below it.
     buildPalette();
-    layout->insertWidget(layout->indexOf(bar) + 1, m_palette);
+    const int below = layout->indexOf(bar) + 1;
+    layout->insertWidget(below, m_palette);
+    auto *rule = new QFrame(this);
+    rule->setFrameShape(QFrame::HLine);
+    rule->setFrameShadow(QFrame::Sunken);
+    layout->insertWidget(below + 1, rule);
 }
 
 TObjInsp::~TObjInsp() = default;

@@ -1,5 +1,5 @@
-// The pages of the text controls: labels, field labels, edits, combo boxes,
-// memos and check boxes.
+// The pages of the text controls: labels, field labels, edits, combo boxes
+// (with their pick-list files), memos and check boxes.
 #include "ObjectInspector.h"
 
 #include "AppPaths.h"
