@@ -51,7 +51,9 @@ public:
         return map;
     }
 
-    QList<QPointer<QWidget>> tabs;
+    QList<QPointer<QWidget>> tabs; // call tabsChanged() after changing it
+    mutable QHash<const QWidget *, int> index;
+    mutable bool indexValid = false;
     bool aligning = false;
     // How many of the container's controls have an Align; kept by the
     // controls, so a container without any is never searched.
@@ -59,8 +61,24 @@ public:
 
     void prune()
     {
-        tabs.removeIf([](const QPointer<QWidget> &p) { return p.isNull(); });
+        if (tabs.removeIf([](const QPointer<QWidget> &p) { return p.isNull(); }))
+            tabsChanged();
     }
+
+    // Saving asks every control for its tab order; an index built once
+    // after each change keeps that linear.
+    int indexOf(const QWidget *w) const
+    {
+        if (!indexValid) {
+            index.clear();
+            index.reserve(tabs.size());
+            for (int i = 0; i < tabs.size(); ++i)
+                index.insert(tabs.at(i).data(), i);
+            indexValid = true;
+        }
+        return index.value(w, -1);
+    }
+    void tabsChanged() { indexValid = false; }
 
     void applyFocusChain()
     {
@@ -228,6 +246,7 @@ void endLoading(const QList<QWidget *> &controls)
             placed[free] = info->tabs.at(i);
         }
         info->tabs = QList<QPointer<QWidget>>(placed.cbegin(), placed.cend());
+        info->tabsChanged();
         info->applyFocusChain();
     }
     for (QWidget *w : controls) {
@@ -256,6 +275,7 @@ TControl::~TControl()
 {
     if (ContainerInfo *info = ContainerInfo::of(m_tabParent, false)) {
         info->tabs.removeAll(m_self);
+        info->tabsChanged();
         if (m_align != alNone)
             --info->alignedChildren;
     }
@@ -400,7 +420,7 @@ int TControl::TabOrder() const
         return -1;
     // Controls take themselves out of the list when they go, so no entry is
     // stale here; read for every control of every undo snapshot, it stays cheap.
-    return int(info->tabs.indexOf(m_self));
+    return info->indexOf(m_self);
 }
 
 void TControl::setTabOrder(int order)
@@ -419,6 +439,7 @@ void TControl::setTabOrder(int order)
     const int to = std::min(order, int(info->tabs.size()) - 1);
     if (from != to) {
         info->tabs.move(from, to);
+        info->tabsChanged();
         info->applyFocusChain();
     }
 }
@@ -463,6 +484,7 @@ void TControl::parentChanged()
     QWidget *oldParent = m_tabParent;
     if (ContainerInfo *old = ContainerInfo::of(oldParent, false)) {
         old->tabs.removeAll(m_self);
+        old->tabsChanged();
         if (m_align != alNone)
             --old->alignedChildren;
         Containers::alignControls(oldParent);
@@ -479,12 +501,14 @@ void TControl::parentChanged()
         if (isLoading()) {
             // Linked once when loading ends (Containers::endLoading).
             info->tabs.append(m_self);
+            info->tabsChanged();
         } else {
             // Appended last: only the link from the previous last one is new.
             info->prune();
             if (!info->tabs.isEmpty())
                 QWidget::setTabOrder(info->tabs.last(), m_self);
             info->tabs.append(m_self);
+            info->tabsChanged();
         }
     }
     if (m_parentColor)
