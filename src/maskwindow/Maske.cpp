@@ -4,6 +4,7 @@
 #include "Components.h"
 #include "Containers.h"
 #include "EditStyle.h"
+#include "Edits.h"
 #include "FormDesigner.h"
 
 #include <QGuiApplication>
@@ -67,6 +68,14 @@ TMaske::TMaske(QWidget *parent)
     m_cxStyleController->setObjectName(QStringLiteral("cxStyleController"));
     Components::setOwner(m_cxStyleController, this);
     wireDesigner();
+}
+
+void TMaske::adoptEditStyle()
+{
+    for (QObject *component : Components::components(this)) {
+        if (auto *styled = dynamic_cast<TEditStyled *>(component); styled && !styled->StyleController())
+            styled->setStyleController(m_cxStyleController);
+    }
 }
 
 TAdvOfficePage *TMaske::NewOPage(const QString &caption)

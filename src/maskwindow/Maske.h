@@ -84,6 +84,10 @@ public:
     int OfficePagerStyle() const { return m_officePagerStyle; }
     void setOfficePagerStyle(int style) { m_officePagerStyle = style; }
 
+    // Gives every edit control of the mask without a style the mask's one
+    // (pasted controls come without).
+    void adoptEditStyle();
+
     // A new page for a page control, owned by the mask and named by the
     // naming rule, with the given caption; the caller adds it to the pager.
     TAdvOfficePage *NewOPage(const QString &caption);

@@ -356,6 +356,8 @@ void TMainForm::PasteItemClick()
     // delete or activation does it.
     if (TFormDesigner *designer = activeDesigner())
         designer->PasteFromClipboard();
+    if (TMaske *mask = activeMask())
+        mask->adoptEditStyle();
     UpdateBtn();
 }
 

@@ -10,6 +10,7 @@
 #include "Components.h"
 #include "Containers.h"
 #include "FormDesigner.h"
+#include "Edits.h"
 #include "Graphics.h"
 #include "ObjectInspector.h"
 #include "EditStyle.h"
@@ -28,6 +29,7 @@ private slots:
     void paletteClicksPlaceNamedControls();
     void toolBarsFollowTheSelection();
     void styleAndSettingsOpenFromTheMenus();
+    void pastedEditsShareTheMaskStyle();
 
 private:
     QTemporaryDir m_dir;
@@ -160,6 +162,23 @@ void TestDesigning::styleAndSettingsOpenFromTheMenus()
     QCOMPARE(dialogs.dialogTitles.last(), QStringLiteral("Einstellungen"));
     mask->FormActivate();
     QCOMPARE(mask->FormDesigner2()->GridStep(), 16);
+}
+
+void TestDesigning::pastedEditsShareTheMaskStyle()
+{
+    auto form = showMainForm();
+    clickTool(form.get(), "FileNewItem");
+    TMaske *mask = form->activeMask();
+    QWidget *surface = mask->designSurface();
+    placeWith(form.get(), "dxBarBtnEdit", surface, QPoint(16, 16));
+    QVERIFY(Components::findComponent(mask, QStringLiteral("cxTextEdit1")));
+
+    // Copy and paste with the keys; the copy looks like its original.
+    QTest::keyClick(surface, Qt::Key_Insert, Qt::ControlModifier);
+    QTest::keyClick(surface, Qt::Key_Insert, Qt::ShiftModifier);
+    auto *copy = qobject_cast<TcxTextEdit *>(Components::findComponent(mask, QStringLiteral("cxTextEdit2")));
+    QVERIFY(copy);
+    QCOMPARE(copy->StyleController(), mask->cxStyleController());
 }
 
 QTEST_MAIN(TestDesigning)
