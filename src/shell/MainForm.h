@@ -255,4 +255,5 @@ private:
     QPointer<QSpinBox> dxBarSpinHeight;
     QPointer<QSpinBox> dxBarSpinTabOrder;
     QPointer<QComboBox> MaskResList;
+    QAction *dxBarNormal = nullptr;
 };

@@ -270,6 +270,11 @@ void TMainForm::createModifyBar()
     MaskResList->setCurrentIndex(3);
     resLabel->setBuddy(MaskResList);
     bar->addWidget(MaskResList);
+    // Scroll range back to the screen the program runs on.
+    dxBarNormal = bar->addAction(QStringLiteral("Normal"));
+    dxBarNormal->setObjectName(QStringLiteral("dxBarNormal"));
+    dxBarNormal->setToolTip(QStringLiteral("Bildlaufbereich der Maske an den Bildschirm anpassen"));
+    dxBarNormal->setEnabled(false);
 
     // Position and size follow the selected control, which the designer brings.
     for (QWidget *w : std::initializer_list<QWidget *>{dxBarSpinLeft, dxBarSpinTop, dxBarSpinWidth, dxBarSpinHeight,

@@ -39,6 +39,7 @@ void TMainForm::createModeCommands()
 {
     connect(EditModeItem, &QAction::triggered, this, &TMainForm::EditMode1Click);
     connect(RunModeItem, &QAction::triggered, this, &TMainForm::RunMode1Click);
+    connect(dxBarNormal, &QAction::triggered, this, &TMainForm::dxBarNormalClick);
     // A resolution the user picks is a change of the mask.
     connect(MaskResList, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] {
         dxBar1024x768Click();

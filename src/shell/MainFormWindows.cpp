@@ -205,7 +205,8 @@ void TMainForm::UpdateMenuItems()
 {
     const bool hasMask = activeMask() != nullptr;
     for (QAction *item : {FileCloseItem, FileSaveItem, FileSaveAsItem, WindowCascadeItem, WindowTileItem,
-                          WindowArrangeItem, WindowMinimizeItem, EditModeItem, RunModeItem}) {
+                          WindowArrangeItem, WindowMinimizeItem, EditModeItem, RunModeItem,
+                          dxBarNormal}) {
         if (item)
             item->setEnabled(hasMask);
     }

@@ -1,5 +1,7 @@
 // Edit mode and run mode, and the resolution list that sizes the active mask.
 #include <QComboBox>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QtTest>
 
 #include "AppPaths.h"
@@ -95,6 +97,13 @@ void TestModes::resolutionListSizesTheMask()
     QCOMPARE(mask->size(), QSize(1167, 737));
     QCOMPARE(mask->ScreenHeight(), 869);
     QCOMPARE(mask->DesignHeight(), 737);
+
+    // "Normal": the scroll range of the screen the program runs on.
+    clickTool(form.get(), "dxBarNormal");
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    QCOMPARE(mask->scrollRanges().height(), screen.height() - 104);
+    QVERIFY(mask->scrollRanges().width() > screen.width());
+    QCOMPARE(mask->size(), QSize(1167, 737)); // the window keeps its size
 
     // Another mask shows its own resolution in the list.
     clickTool(form.get(), "FileNewItem");
