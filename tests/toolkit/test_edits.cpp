@@ -65,8 +65,6 @@ void TestEdits::classesAreNamedAndShowTheirNames()
         QWidget *w = info->create();
         QVERIFY(w);
         w->setParent(&owner);
-        QCOMPARE(QString::fromLatin1(w->metaObject()->className()), names.at(i));
-        QCOMPARE(&TControl::from(w)->classInfo(), info);
         QVERIFY(info->windowed);
         QVERIFY(!info->acceptsControls);
         // A new control shows its name, and a rename while it still does.
@@ -112,59 +110,25 @@ void TestEdits::freshControlsHoldTheirDefaults()
 
 void TestEdits::everyPropertyRoundTrips()
 {
+    // The descriptors and getters agree for every class (see the control
+    // layer test); here: what the Qt widget underneath shows of them.
     QWidget owner;
-    {
-        auto *e = static_cast<TcxTextEdit *>(createSecond(TcxTextEdit::staticClassInfo(), &owner));
-        const auto v = writeEveryProperty(e);
-        QCOMPARE(e->Text(), v["Text"].toString());
-        QCOMPARE(e->MaxLength(), v["MaxLength"].toInt());
-        QCOMPARE(e->ReadOnly(), v["ReadOnly"].toBool());
-        QCOMPARE(e->Color(), v["Color"].value<TColor>());
-        QCOMPARE(e->Font(), v["Font"].value<TFont>());
-        QCOMPARE(e->Tag(), v["Tag"].toInt());
-        QCOMPARE(e->TabOrder(), 0);
-        QCOMPARE(e->x(), v["Left"].toInt());
-    }
-    {
-        auto *c = static_cast<TcxComboBox *>(createSecond(TcxComboBox::staticClassInfo(), &owner));
-        const auto v = writeEveryProperty(c);
-        QCOMPARE(c->Items(), v["Items"].toStringList());
-        QCOMPARE(c->count(), 2);
-        QCOMPARE(c->Text(), v["Text"].toString());
-        QCOMPARE(c->MaxLength(), v["MaxLength"].toInt());
-        QCOMPARE(c->ReadOnly(), v["ReadOnly"].toBool());
-    }
-    {
-        auto *p = static_cast<TcxDBPopupEdit *>(createSecond(TcxDBPopupEdit::staticClassInfo(), &owner));
-        const auto v = writeEveryProperty(p);
-        QCOMPARE(p->DataField(), v["DataField"].toString());
-        QCOMPARE(p->EditMask(), v["EditMask"].toString());
-        QCOMPARE(p->PopupSizeable(), v["PopupSizeable"].toBool());
-        QCOMPARE(p->Text(), v["Text"].toString());
-        // The lookup table's name is no input mask.
-        QCOMPARE(p->inputMask(), QString());
-    }
-    {
-        auto *m = static_cast<TcxMemo *>(createSecond(TcxMemo::staticClassInfo(), &owner));
-        const auto v = writeEveryProperty(m);
-        QCOMPARE(m->Lines(), v["Lines"].toStringList());
-        QCOMPARE(m->MaxLength(), v["MaxLength"].toInt());
-        QCOMPARE(m->ReadOnly(), v["ReadOnly"].toBool());
-        QCOMPARE(m->WordWrap(), v["WordWrap"].toBool());
-    }
-    {
-        auto *b = static_cast<TcxDBCheckBox *>(createSecond(TcxDBCheckBox::staticClassInfo(), &owner));
-        const auto v = writeEveryProperty(b);
-        QCOMPARE(b->Caption(), v["Caption"].toString());
-        QCOMPARE(b->text(), v["Caption"].toString());
-        QCOMPARE(b->DataField(), v["DataField"].toString());
-        QCOMPARE(b->Checked(), v["Checked"].toBool());
-        QCOMPARE(b->isChecked(), v["Checked"].toBool());
-        QCOMPARE(b->ValueChecked(), v["ValueChecked"].toString());
-        QCOMPARE(b->ValueUnchecked(), v["ValueUnchecked"].toString());
-        QCOMPARE(b->ReadOnly(), v["ReadOnly"].toBool());
-        QCOMPARE(b->ParentColor(), v["ParentColor"].toBool());
-    }
+    auto *c = static_cast<TcxComboBox *>(createSecond(TcxComboBox::staticClassInfo(), &owner));
+    auto v = writeEveryProperty(c);
+    QCOMPARE(c->count(), 2);
+    QCOMPARE(c->currentText(), v["Text"].toString());
+    auto *p = static_cast<TcxDBPopupEdit *>(createSecond(TcxDBPopupEdit::staticClassInfo(), &owner));
+    writeEveryProperty(p);
+    QCOMPARE(p->inputMask(), QString()); // the lookup table's name is no input mask
+    auto *b = static_cast<TcxDBCheckBox *>(createSecond(TcxDBCheckBox::staticClassInfo(), &owner));
+    v = writeEveryProperty(b);
+    QCOMPARE(b->text(), v["Caption"].toString());
+    QCOMPARE(b->isChecked(), v["Checked"].toBool());
+    auto *e = static_cast<TcxTextEdit *>(createSecond(TcxTextEdit::staticClassInfo(), &owner));
+    v = writeEveryProperty(e);
+    QCOMPARE(e->text(), v["Text"].toString());
+    QCOMPARE(e->x(), v["Left"].toInt());
+
     // A system colour stays symbolic through the property.
     TcxTextEdit edit;
     const TPropInfo *color = edit.classInfo().property(QStringLiteral("Color"));

@@ -89,8 +89,6 @@ void TestGrids::classesAndFreshState()
         QWidget *w = info->create();
         QVERIFY(w);
         w->setParent(&owner);
-        QCOMPARE(QString::fromLatin1(w->metaObject()->className()), names.at(i));
-        QCOMPARE(&TControl::from(w)->classInfo(), info);
         QVERIFY(info->windowed);
         QVERIFY(!info->acceptsControls);
         QCOMPARE(w->size(), sizes.at(i));
@@ -124,41 +122,16 @@ void TestGrids::classesAndFreshState()
 
 void TestGrids::everyPropertyRoundTrips()
 {
+    // The descriptors and getters agree for every class (see the control
+    // layer test); here: what the Qt widget underneath shows of them.
     QWidget owner;
-    {
-        auto *g = static_cast<TDBGrid *>(createSecond(TDBGrid::staticClassInfo(), &owner));
-        const auto v = writeEveryProperty(g);
-        QCOMPARE(g->Columns(), v["Columns"].toStringList());
-        QCOMPARE(g->columnCount(), 2);
-        QCOMPARE(g->DataSource(), v["DataSource"].toString());
-        QCOMPARE(g->ReadOnly(), v["ReadOnly"].toBool());
-        QCOMPARE(g->TitleFont(), v["TitleFont"].value<TFont>());
-        QCOMPARE(g->Font(), v["Font"].value<TFont>());
-        QCOMPARE(g->TabOrder(), 0);
-    }
-    {
-        auto *t = static_cast<TcxDBTreeList *>(createSecond(TcxDBTreeList::staticClassInfo(), &owner));
-        const auto v = writeEveryProperty(t);
-        QCOMPARE(t->Columns(), v["Columns"].toStringList());
-        QCOMPARE(t->KeyField(), v["KeyField"].toString());
-        QCOMPARE(t->ParentField(), v["ParentField"].toString());
-        QCOMPARE(t->StateIndexField(), v["StateIndexField"].toString());
-        QCOMPARE(t->ImageIndexField(), v["ImageIndexField"].toString());
-        QCOMPARE(t->DragDrop(), v["DragDrop"].toBool());
-        QCOMPARE(t->TitleFont(), v["TitleFont"].value<TFont>());
-    }
-    {
-        auto *s = static_cast<TStringGrid *>(createSecond(TStringGrid::staticClassInfo(), &owner));
-        const auto v = writeEveryProperty(s);
-        QCOMPARE(s->ColCount(), v["ColCount"].toInt());
-        QCOMPARE(s->RowCount(), v["RowCount"].toInt());
-        QCOMPARE(s->FixedCols(), v["FixedCols"].toInt());
-        QCOMPARE(s->FixedRows(), v["FixedRows"].toInt());
-        QCOMPARE(s->DefaultColWidth(), v["DefaultColWidth"].toInt());
-        QCOMPARE(s->DefaultRowHeight(), v["DefaultRowHeight"].toInt());
-        QCOMPARE(s->columnCount(), s->ColCount());
-        QCOMPARE(s->rowCount(), s->RowCount());
-    }
+    auto *g = static_cast<TDBGrid *>(createSecond(TDBGrid::staticClassInfo(), &owner));
+    writeEveryProperty(g);
+    QCOMPARE(g->columnCount(), 2);
+    auto *s = static_cast<TStringGrid *>(createSecond(TStringGrid::staticClassInfo(), &owner));
+    writeEveryProperty(s);
+    QCOMPARE(s->columnCount(), s->ColCount());
+    QCOMPARE(s->rowCount(), s->RowCount());
 }
 
 void TestGrids::dbGridColumnsBuildTheHeader()
