@@ -778,8 +778,9 @@ bool writeFile(const QString &path, const QByteArray &bytes)
 
 // Checks that the loaded mask holds every control, named and nested as the
 // layout expects.
-bool verifyMask(TMaske *mask, const Layout &l)
+bool verifyMask(TMaske *window, const Layout &l)
 {
+    const TMaskDocument *mask = window->document();
     const QList<QObject *> components = Components::components(mask);
     int loaded = 0;
     for (QObject *c : components)
@@ -801,7 +802,7 @@ bool verifyMask(TMaske *mask, const Layout &l)
             const QString expected = nameOf(l.nodes[size_t(n.parent)]);
             const QWidget *p = w->parentWidget();
             // A page may sit in the page control's own stack widget.
-            while (p && p->objectName() != expected && p != mask->designSurface())
+            while (p && p->objectName() != expected && p != mask)
                 p = p->parentWidget();
             if (!p || p->objectName() != expected) {
                 if (wrong++ < 5)
@@ -827,15 +828,15 @@ bool measureFerolith(Figures &f, const Layout &layout, bool first, const QString
 
     QElapsedTimer t;
     t.start();
-    QString error;
-    TMaske *mask = MaskLoader::LoadMask(*form, dbm, &error);
+    TMaske *mask = form->LoadMask(dbm);
     const double load = msSince(t);
     QCoreApplication::processEvents();
     const double loadShow = msSince(t);
-    if (!error.isEmpty() || !mask) {
-        std::fprintf(stderr, "loading failed: %s\n", qPrintable(error));
+    if (!mask) {
+        std::fprintf(stderr, "loading failed\n");
         return false;
     }
+    QString error;
     f.load.take(load);
     f.loadShow.take(loadShow);
     if (first)
@@ -843,7 +844,7 @@ bool measureFerolith(Figures &f, const Layout &layout, bool first, const QString
 
     QFile::remove(savedDbm); // every run saves a new file, no backup
     t.restart();
-    if (!MaskWriter::SaveMask(mask, savedDbm, &error)) {
+    if (!MaskWriter::SaveMask(*mask->document(), savedDbm, &error)) {
         std::fprintf(stderr, "saving failed: %s\n", qPrintable(error));
         return false;
     }
@@ -851,7 +852,7 @@ bool measureFerolith(Figures &f, const Layout &layout, bool first, const QString
     f.savedDbmBytes = QFileInfo(savedDbm).size();
 
     t.restart();
-    const QByteArray bytes = MaskWriter::MaskFileBytes(mask);
+    const QByteArray bytes = MaskWriter::MaskFileBytes(*mask->document());
     f.bytesOnly.take(msSince(t));
     if (bytes.isEmpty())
         std::fprintf(stderr, "no mask file text\n");
@@ -1017,7 +1018,7 @@ int main(int argc, char **argv)
             flushEvents();
             QElapsedTimer t;
             t.start();
-            TMaske *mask = MaskLoader::LoadMask(*form, empty);
+            TMaske *mask = form->LoadMask(empty);
             best.take(msSince(t));
             mask->setModified(false);
             form.reset();

@@ -80,7 +80,7 @@ int main(int argc, char **argv)
     }
     mask->resize(1200, 800);
     QCoreApplication::processEvents();
-    QWidget *surface = mask->designSurface();
+    QWidget *surface = mask->document();
     if (!surface) {
         std::fprintf(stderr, "mask has no design surface\n");
         return 1;

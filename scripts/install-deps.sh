@@ -7,7 +7,7 @@ packages=(
     cmake ninja-build g++ ccache pkg-config
     qt6-base-dev qt6-base-dev-tools libgl-dev
     libqt6sql6-sqlite libqt6sql6-psql qt6-image-formats-plugins qt6-qpa-plugins
-    fonts-dejavu-core fonts-liberation2 qt6-tools-dev
+    fonts-dejavu-core fonts-liberation2 qt6-tools-dev libqt6opengl6-dev
 )
 
 missing=()

@@ -1,18 +1,23 @@
-// The batch commands: each loads a mask into a real mask window of an
-// invisible main window, exactly as File Open does.
+// The batch commands: each loads a mask into a document as File Open does;
+// only "render" puts it into a mask window.
 #include "CliCommands.h"
 
-#include "MainForm.h"
+#include "AppPaths.h"
+#include "IniFile.h"
+#include "MaskDocument.h"
 #include "MaskDump.h"
 #include "MaskLoader.h"
+#include "MaskResolutions.h"
 #include "MaskWriter.h"
 #include "Maske.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QImage>
 #include <QImageWriter>
 #include <QJsonDocument>
+#include <QMdiArea>
 #include <QPixmap>
 #include <memory>
 
@@ -41,29 +46,28 @@ bool checkInput(const QString &file, QTextStream &err)
     return true;
 }
 
-struct Loaded
+// The folder of the table settings files, as the settings window would show it.
+QString databaseFolder()
 {
-    std::unique_ptr<TMainForm> form;
-    TMaske *mask = nullptr;
-};
+    TMemIniFile ini;
+    ini.load(AppPaths::settingsFile());
+    QString path = ini.readString(QStringLiteral("Configuration"), QStringLiteral("DatenbankPfad"),
+                                  AppPaths::baseFolder() + QStringLiteral("DB") + QDir::separator());
+    return path.isEmpty() ? path : AppPaths::withTrailingSeparator(path);
+}
 
-Loaded load(const QString &file, QTextStream &err)
+// Loads the file into document; false after a message on err.
+bool load(TMaskDocument &document, const QString &file, QTextStream &err,
+          const MaskLoader::HeaderRead &headerRead = {})
 {
-    Loaded l;
     if (!checkInput(file, err))
-        return l;
-    l.form = std::make_unique<TMainForm>();
-    l.form->resize(1280, 1024);
-    l.form->show(); // on the offscreen platform: laid out, never seen
+        return false;
     QString error;
-    TMaske *mask = MaskLoader::LoadMask(*l.form, file, &error);
-    if (!error.isEmpty()) {
+    if (!MaskLoader::LoadMask(document, file, databaseFolder(), &error, headerRead)) {
         err << "ferolith-cli: " << error.simplified() << Qt::endl;
-        return l;
+        return false;
     }
-    l.mask = mask;
-    QCoreApplication::processEvents();
-    return l;
+    return true;
 }
 
 } // namespace
@@ -74,11 +78,11 @@ int roundtrip(const QStringList &args, QTextStream &, QTextStream &err)
 {
     if (!expectArgs(args, 2, "roundtrip EIN.dbm AUS.dbm", err))
         return 2;
-    Loaded l = load(args.at(0), err);
-    if (!l.mask)
+    TMaskDocument document;
+    if (!load(document, args.at(0), err))
         return 1;
     QString error;
-    if (!MaskWriter::SaveMask(l.mask, args.at(1), &error)) {
+    if (!MaskWriter::SaveMask(document, args.at(1), &error)) {
         err << "ferolith-cli: " << error.simplified() << Qt::endl;
         return 1;
     }
@@ -89,10 +93,10 @@ int dump(const QStringList &args, QTextStream &out, QTextStream &err)
 {
     if (!expectArgs(args, 1, "dump EIN.dbm", err))
         return 2;
-    Loaded l = load(args.at(0), err);
-    if (!l.mask)
+    TMaskDocument document;
+    if (!load(document, args.at(0), err))
         return 1;
-    out << QString::fromUtf8(QJsonDocument(MaskDump::MaskToJson(l.mask)).toJson(QJsonDocument::Indented));
+    out << QString::fromUtf8(QJsonDocument(MaskDump::MaskToJson(document)).toJson(QJsonDocument::Indented));
     out.flush();
     return 0;
 }
@@ -101,12 +105,23 @@ int render(const QStringList &args, QTextStream &out, QTextStream &err)
 {
     if (!expectArgs(args, 2, "render EIN.dbm AUS.png", err))
         return 2;
-    Loaded l = load(args.at(0), err);
-    if (!l.mask)
+    // A mask window in a window area, sized as the main window of a
+    // 1280x1024 screen would size it, in run mode: no designer.
+    const QSize mainWindow(1280, 1024);
+    QMdiArea area;
+    area.resize(mainWindow);
+    auto *mask = new TMaske; // the area owns it
+    area.addSubWindow(mask);
+    area.show(); // on the offscreen platform: laid out, never seen
+    mask->show();
+    if (!load(*mask->document(), args.at(0), err, [&](TMaskDocument &document) {
+            const QString text = QStringLiteral("%1x%2").arg(document.ScreenWidth()).arg(document.ScreenHeight());
+            MaskResolutions::apply(mask, int(MaskResolutions::texts().indexOf(text)), mainWindow);
+        }))
         return 1;
-    l.form->RunMode1Click();
+    mask->documentLoaded();
     QCoreApplication::processEvents();
-    const QImage image = l.mask->grab().toImage();
+    const QImage image = mask->grab().toImage();
     QImageWriter writer(args.at(1), "png");
     if (!writer.write(image)) {
         err << "ferolith-cli: Das Bild „" << args.at(1) << "“ kann nicht geschrieben werden: " << writer.errorString()

@@ -3,7 +3,7 @@
 #include "Components.h"
 #include "Control.h"
 #include "EditStyle.h"
-#include "Maske.h"
+#include "MaskDocument.h"
 
 #include <QJsonArray>
 
@@ -68,17 +68,17 @@ QJsonObject controlToJson(QWidget *w, const TControl *c)
 
 namespace MaskDump {
 
-QJsonObject MaskToJson(TMaske *mask)
+QJsonObject MaskToJson(const TMaskDocument &document)
 {
     QJsonObject root;
-    root.insert(QStringLiteral("title"), mask->Titel());
-    root.insert(QStringLiteral("table"), mask->Tabelle());
-    root.insert(QStringLiteral("type"), mask->Typ());
-    root.insert(QStringLiteral("resolution"), QJsonObject{{QStringLiteral("pixel"), mask->Pixel()},
-                                                          {QStringLiteral("width"), mask->ScreenWidth()},
-                                                          {QStringLiteral("height"), mask->ScreenHeight()}});
+    root.insert(QStringLiteral("title"), document.Titel());
+    root.insert(QStringLiteral("table"), document.Tabelle());
+    root.insert(QStringLiteral("type"), document.Typ());
+    root.insert(QStringLiteral("resolution"), QJsonObject{{QStringLiteral("pixel"), document.Pixel()},
+                                                          {QStringLiteral("width"), document.ScreenWidth()},
+                                                          {QStringLiteral("height"), document.ScreenHeight()}});
 
-    const TcxEditStyleController *style = mask->cxStyleController();
+    const TcxEditStyleController *style = document.cxStyleController();
     root.insert(QStringLiteral("style"),
                 QJsonObject{{QStringLiteral("BorderStyle"), style->BorderStyle()},
                             {QStringLiteral("ButtonStyle"), style->ButtonStyle()},
@@ -91,7 +91,7 @@ QJsonObject MaskToJson(TMaske *mask)
                             {QStringLiteral("EdgeTop"), bool(style->Edges() & bTop)},
                             {QStringLiteral("EdgeBottom"), bool(style->Edges() & bBottom)}});
 
-    const TTableSettings &t = mask->TableSettings();
+    const TTableSettings &t = document.TableSettings();
     root.insert(QStringLiteral("tableSettings"),
                 QJsonObject{{QStringLiteral("CadPath"), t.CadPath},
                             {QStringLiteral("Index"), t.Index},
@@ -102,7 +102,7 @@ QJsonObject MaskToJson(TMaske *mask)
                             {QStringLiteral("Default"), QJsonArray::fromStringList(t.Default)}});
 
     QJsonArray controls;
-    for (QObject *component : Components::components(mask)) {
+    for (QObject *component : Components::components(&document)) {
         auto *w = qobject_cast<QWidget *>(component);
         if (const TControl *c = TControl::from(component); w && c)
             controls.append(controlToJson(w, c));

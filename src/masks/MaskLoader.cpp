@@ -1,14 +1,13 @@
-// Loading a mask file into a new mask window.
+// Loading a mask file into a document.
 #include "MaskLoader.h"
 
 #include "Components.h"
 #include "Control.h"
 #include "EditStyle.h"
 #include "FileNames.h"
-#include "FormDesigner.h"
 #include "IniFile.h"
+#include "MaskDocument.h"
 #include "MaskReader.h"
-#include "Maske.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -85,7 +84,7 @@ const SortKind kSortKinds[] = {
     {"dxPopUpEdit", 5},   // 5-LFeld
 };
 
-void applySortSection(TMaske *mask, const TMemIniFile &ini)
+void applySortSection(TMaskDocument *mask, const TMemIniFile &ini)
 {
     if (!ini.sectionExists(kSort))
         return;
@@ -105,7 +104,7 @@ void applySortSection(TMaske *mask, const TMemIniFile &ini)
     }
 }
 
-void loadEditStyle(TMaske *mask, const TMemIniFile &ini)
+void loadEditStyle(TMaskDocument *mask, const TMemIniFile &ini)
 {
     TcxEditStyleController *style = mask->cxStyleController();
     const auto ordinal = [&](const char *key, int def, int count) {
@@ -141,14 +140,14 @@ QString withoutExtension(const QString &name)
 
 namespace MaskLoader {
 
-void LoadTableSettings(TMaske *mask, const QString &databaseFolder)
+void LoadTableSettings(TMaskDocument &document, const QString &databaseFolder)
 {
     TTableSettings settings;
-    if (!mask->Tabelle().isEmpty()) {
+    if (!document.Tabelle().isEmpty()) {
         // The table generator writes ".ini"; older folders hold ".Ini".
-        QString file = databaseFolder + mask->Tabelle() + QStringLiteral(".Ini");
+        QString file = databaseFolder + document.Tabelle() + QStringLiteral(".Ini");
         if (!QFileInfo::exists(file))
-            file = databaseFolder + mask->Tabelle() + QStringLiteral(".ini");
+            file = databaseFolder + document.Tabelle() + QStringLiteral(".ini");
         TMemIniFile ini;
         if (QFileInfo(file).isFile() && ini.load(file)) {
             settings.CadPath = ini.readString(kDatenbank, QStringLiteral("CadPath"), QString());
@@ -163,39 +162,37 @@ void LoadTableSettings(TMaske *mask, const QString &databaseFolder)
             settings.Default = ini.readSectionValues(QStringLiteral("Default"));
         }
     }
-    mask->setTableSettings(settings);
+    document.setTableSettings(settings);
 }
 
-TMaske *LoadMask(TMaskLoaderHost &host, const QString &fileName, QString *errorMessage)
+bool LoadMask(TMaskDocument &document, const QString &fileName, const QString &databaseFolder,
+              QString *errorMessage, const HeaderRead &headerRead)
 {
     TMemIniFile ini;
-    if (!ini.load(fileName, errorMessage))
+    const bool read = ini.load(fileName, errorMessage);
+    if (!read)
         ini.clear(); // what could not be read gives an empty mask
 
-    TMaske *mask = host.OpenMaskWindow(fileName);
-    // No handles while the controls are made.
-    mask->FormDesigner2()->setActive(false);
-
+    TMaskDocument *mask = &document;
     mask->setTyp(ini.readInteger(kDatenbank, QStringLiteral("Typ"), 0));
     const QScreen *screen = QGuiApplication::primaryScreen();
     const QSize screenSize = screen ? screen->size() : QSize(800, 600);
     mask->setPixel(ini.readInteger(kDatenBank, QStringLiteral("Pixel"), screen ? screen->depth() : 32));
     mask->setScreenHeight(ini.readInteger(kDatenBank, QStringLiteral("Height"), screenSize.height()));
     mask->setScreenWidth(ini.readInteger(kDatenBank, QStringLiteral("Width"), screenSize.width()));
-    host.selectResolution(mask, QStringLiteral("%1x%2").arg(mask->ScreenWidth()).arg(mask->ScreenHeight()));
+    if (headerRead)
+        headerRead(document);
 
     mask->setTabelle(withoutExtension(ini.readString(kDatenbank, QStringLiteral("Tabelle"), QString())));
     mask->setTitel(ini.readString(kDatenbank, QStringLiteral("Titel"), QStringLiteral("Maske")));
-    LoadTableSettings(mask, host.DatabasePath());
-    mask->setWindowTitle(mask->Titel());
+    LoadTableSettings(document, databaseFolder);
 
     loadEditStyle(mask, ini);
 
     // Built out of sight: a visible surface would lay out and repaint
     // after every control.
-    QWidget *surface = mask->designSurface();
-    const bool surfaceShown = !surface->isHidden();
-    surface->hide();
+    const bool surfaceShown = !mask->isHidden();
+    mask->hide();
     TMaskReader reader(mask, ini);
     loadKinds(reader, ini, std::begin(kKindsBeforeBrowser), std::end(kKindsBeforeBrowser));
     if (ini.sectionExists(QStringLiteral("Browser")))
@@ -206,12 +203,8 @@ TMaske *LoadMask(TMaskLoaderHost &host, const QString &fileName, QString *errorM
 
     applySortSection(mask, ini);
     reader.finish();
-    surface->setVisible(surfaceShown);
-
-    host.UpdateComponents();
-    mask->setModified(false);
-    mask->FormDesigner2()->setActive(true);
-    return mask;
+    mask->setVisible(surfaceShown);
+    return read;
 }
 
 } // namespace MaskLoader

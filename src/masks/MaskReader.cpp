@@ -8,7 +8,7 @@
 #include "Graphics.h"
 #include "Grids.h"
 #include "IniFile.h"
-#include "Maske.h"
+#include "MaskDocument.h"
 #include "MyBtn.h"
 
 #include <algorithm>
@@ -32,7 +32,7 @@ const QString kError = QStringLiteral("ERROR");
 const QString kArial = QStringLiteral("Arial");
 } // namespace
 
-TMaskReader::TMaskReader(TMaske *mask, const TMemIniFile &ini) : m_mask(mask), m_ini(ini) {}
+TMaskReader::TMaskReader(TMaskDocument *mask, const TMemIniFile &ini) : m_mask(mask), m_ini(ini) {}
 
 QString TMaskReader::str(const QString &section, const QString &key, const QString &def) const
 {
@@ -113,7 +113,7 @@ QWidget *TMaskReader::parentFor(const QString &section, const QWidget *self) con
     const TControl *c = TControl::from(found);
     if (w && w != self && c && c->classInfo().windowed)
         return w;
-    return m_mask->designSurface();
+    return m_mask;
 }
 
 template <class T>
@@ -143,7 +143,6 @@ void TMaskReader::LoadPageControl(const QString &s)
     // already would follow it; the pages loaded next decide.
     pager->setActivePageIndex(integer(s, QStringLiteral("ActivePage"), 0));
     pager->setFont(font(s, kFontSize, defaultFont(QStringLiteral("Tahoma"), 10)));
-    m_mask->wirePager(pager);
 }
 
 void TMaskReader::LoadPage(const QString &s)

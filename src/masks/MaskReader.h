@@ -8,16 +8,16 @@
 #include "Types.h"
 
 class TMemIniFile;
-class TMaske;
+class TMaskDocument;
 class TControl;
 
-// Creates the controls of one mask file in a mask window, one loader per
+// Creates the controls of one mask file in a mask document, one loader per
 // kind of control. Every control stays in its loading state until finish(),
 // so nothing sizes itself and tab orders are applied all at once.
 class TMaskReader
 {
 public:
-    TMaskReader(TMaske *mask, const TMemIniFile &ini);
+    TMaskReader(TMaskDocument *mask, const TMemIniFile &ini);
 
     void LoadPageControl(const QString &section);
     void LoadPage(const QString &section);
@@ -68,7 +68,7 @@ private:
     void readTabOrder(TControl *c, const QString &section) const;
     void styled(QWidget *w) const;
 
-    TMaske *m_mask;
+    TMaskDocument *m_mask;
     const TMemIniFile &m_ini;
     QList<QWidget *> m_controls;
     QHash<QWidget *, QString> m_sections; // control -> the section it came from

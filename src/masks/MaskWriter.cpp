@@ -1,4 +1,4 @@
-// Saving a mask window to its mask file.
+// Saving a mask document to its mask file.
 #include "MaskWriter.h"
 
 #include "Components.h"
@@ -7,7 +7,7 @@
 #include "IniFile.h"
 #include "IniFileAccess.h"
 #include "MaskWriterControls.h"
-#include "Maske.h"
+#include "MaskDocument.h"
 #include "TextCodec.h"
 
 #include <QFile>
@@ -39,7 +39,7 @@ private:
     bool m_active = true;
 };
 
-void writeHeader(TMaske *mask, TMemIniFile &ini)
+void writeHeader(const TMaskDocument *mask, TMemIniFile &ini)
 {
     // Both spellings on purpose: the runtime reads either, and they are one
     // section when read.
@@ -70,13 +70,13 @@ void writeHeader(TMaske *mask, TMemIniFile &ini)
 
 namespace MaskWriter {
 
-QByteArray MaskFileBytes(TMaske *mask)
+QByteArray MaskFileBytes(const TMaskDocument &document)
 {
     TMemIniFile ini;
-    writeHeader(mask, ini);
+    writeHeader(&document, ini);
     QStringList pickLists;
-    TMaskWriter writer(mask, ini, pickLists);
-    for (QObject *component : Components::components(mask))
+    TMaskWriter writer(&document, ini, pickLists);
+    for (QObject *component : Components::components(&document))
         writer.write(component);
     if (pickLists.isEmpty())
         return ini.toBytes();
@@ -85,9 +85,8 @@ QByteArray MaskFileBytes(TMaske *mask)
     return TextCodec::encodeWindows1252(pickLists.join(crlf) + crlf + ini.text());
 }
 
-bool SaveMask(TMaske *mask, const QString &fileName, QString *errorMessage)
+bool SaveMask(const TMaskDocument &document, const QString &fileName, QString *errorMessage)
 {
-    mask->scrollToOrigin(); // positions are stored unscrolled
     WaitCursor wait;
 
     // The previous file becomes the backup; an older backup makes way. A
@@ -100,10 +99,7 @@ bool SaveMask(TMaske *mask, const QString &fileName, QString *errorMessage)
         QFile::rename(fileName, backup);
     }
 
-    if (!IniFileAccess::writeWhole(fileName, MaskFileBytes(mask), errorMessage))
-        return false;
-    mask->setModified(false);
-    return true;
+    return IniFileAccess::writeWhole(fileName, MaskFileBytes(document), errorMessage);
 }
 
 } // namespace MaskWriter

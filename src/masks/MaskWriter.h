@@ -3,17 +3,17 @@
 #include <QByteArray>
 #include <QString>
 
-class TMaske;
+class TMaskDocument;
 
 namespace MaskWriter {
 
-// The mask file text of a mask window, as saving writes it.
-QByteArray MaskFileBytes(TMaske *mask);
+// The mask file text of a document, as saving writes it.
+QByteArray MaskFileBytes(const TMaskDocument &document);
 
-// Saves the mask to fileName: the previous file becomes its ".dbm_bak"
+// Saves the document to fileName: the previous file becomes its ".dbm_bak"
 // backup, then the new file is written completely before it takes the name.
-// On failure errorMessage holds the system's reason and the mask stays
-// modified; the previous version is then in the backup.
-bool SaveMask(TMaske *mask, const QString &fileName, QString *errorMessage = nullptr);
+// On failure errorMessage holds the system's reason; the previous version
+// is then in the backup.
+bool SaveMask(const TMaskDocument &document, const QString &fileName, QString *errorMessage = nullptr);
 
 } // namespace MaskWriter

@@ -8,7 +8,7 @@
 #include "Graphics.h"
 #include "Grids.h"
 #include "IniFile.h"
-#include "Maske.h"
+#include "MaskDocument.h"
 #include "MyBtn.h"
 
 #include <cstring>
@@ -23,7 +23,7 @@ T *as(QWidget *w)
 }
 } // namespace
 
-TMaskWriter::TMaskWriter(TMaske *mask, TMemIniFile &ini, QStringList &pickLists)
+TMaskWriter::TMaskWriter(const TMaskDocument *mask, TMemIniFile &ini, QStringList &pickLists)
     : m_mask(mask), m_ini(ini), m_pickLists(pickLists)
 {
 }

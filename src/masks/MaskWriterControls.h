@@ -9,7 +9,7 @@
 class QWidget;
 class TControl;
 class TMemIniFile;
-class TMaske;
+class TMaskDocument;
 
 // Writes the sections of a mask's controls, one writer per kind of control.
 // Each kind counts its own sections from 1 in the order they are visited;
@@ -18,7 +18,7 @@ class TMaske;
 class TMaskWriter
 {
 public:
-    TMaskWriter(TMaske *mask, TMemIniFile &ini, QStringList &pickLists);
+    TMaskWriter(const TMaskDocument *mask, TMemIniFile &ini, QStringList &pickLists);
 
     // Writes the control when its exact class is one the mask file knows;
     // other components are not saved.
@@ -59,7 +59,7 @@ private:
     void fontColorAfterSize(const QString &s, const TControl *c);
     void sortLine(const TControl *c, const char *kindWord, const QString &number);
 
-    TMaske *m_mask;
+    const TMaskDocument *m_mask;
     TMemIniFile &m_ini;
     QStringList &m_pickLists;
     QHash<QString, int> m_counters;

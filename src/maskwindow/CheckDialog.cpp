@@ -51,7 +51,7 @@ void TCheckDlg::fillFields(TMaske *mask)
 {
     if (!mask)
         return;
-    for (QObject *c : Components::components(mask)) {
+    for (QObject *c : Components::components(mask->document())) {
         // Exact classes: a lookup field is a text edit by descent, yet no field to colour by.
         const QLatin1String cls(c->metaObject()->className());
         if (cls == QLatin1String("TcxTextEdit"))

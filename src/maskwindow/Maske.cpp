@@ -5,6 +5,7 @@
 #include "Containers.h"
 #include "EditStyle.h"
 #include "Edits.h"
+#include "MaskDocument.h"
 #include "FormDesigner.h"
 
 #include <QGuiApplication>
@@ -16,14 +17,6 @@
 TMaske::TMaske(QWidget *parent)
     : QMdiSubWindow(parent)
 {
-    // Until a resolution is chosen or loaded, the mask is designed for the
-    // screen it is made on.
-    if (const QScreen *screen = QGuiApplication::primaryScreen()) {
-        m_pixel = screen->depth();
-        m_screenHeight = screen->size().height();
-        m_screenWidth = screen->size().width();
-    }
-
     // A closed mask is gone: the main window never keeps hidden masks around.
     setAttribute(Qt::WA_DeleteOnClose);
 
@@ -34,23 +27,19 @@ TMaske::TMaske(QWidget *parent)
     // a small window scrolls instead of squeezing the controls.
     m_scrollBox->setWidgetResizable(true);
 
-    m_surface = new QWidget;
-    m_surface->setObjectName(QStringLiteral("Maske"));
-    m_surface->setAutoFillBackground(true);
-    QPalette pal = m_surface->palette();
-    pal.setColor(QPalette::Window, Colors::clBtnFace.toQColor(pal));
-    m_surface->setPalette(pal);
-    m_surface->setMinimumSize(m_designWidth, m_designHeight);
-    m_scrollBox->setWidget(m_surface);
+    m_document = new TMaskDocument;
+    m_document->setMinimumSize(m_designWidth, m_designHeight);
+    m_scrollBox->setWidget(m_document);
 
     setWidget(m_scrollBox);
     resize(640, 460);
 
     // The engine as masks use it: grid, red locked handles, blue alignment
-    // lines on all four edges, no boxes for non-visual components.
-    m_formDesigner2 = new TFormDesigner(this);
+    // lines on all four edges, no boxes for non-visual components. It edits
+    // the document, which owns the controls it places and pastes.
+    m_formDesigner2 = new TFormDesigner(m_document);
     m_formDesigner2->setObjectName(QStringLiteral("FormDesigner2"));
-    m_formDesigner2->setDesignControl(m_surface);
+    m_formDesigner2->setDesignControl(m_document);
     m_formDesigner2->setDisplayGrid(true);
     m_formDesigner2->setLockedGrabBorder(Colors::clRed);
     m_formDesigner2->setLockedGrabFill(Colors::clRed);
@@ -62,29 +51,16 @@ TMaske::TMaske(QWidget *parent)
     m_formDesigner2->setAlignmentColorTop(Colors::clBlue);
     m_formDesigner2->setAlignmentColorRight(Colors::clBlue);
     m_formDesigner2->setAlignmentColorBottom(Colors::clBlue);
-    Components::setOwner(m_formDesigner2, this);
-
-    m_cxStyleController = new TcxEditStyleController(this);
-    m_cxStyleController->setObjectName(QStringLiteral("cxStyleController"));
-    Components::setOwner(m_cxStyleController, this);
+    Components::setOwner(m_formDesigner2, m_document);
     wireDesigner();
 }
 
-void TMaske::adoptEditStyle()
+void TMaske::documentLoaded()
 {
-    for (QObject *component : Components::components(this)) {
-        if (auto *styled = dynamic_cast<TEditStyled *>(component); styled && !styled->StyleController())
-            styled->setStyleController(m_cxStyleController);
-    }
-}
-
-TAdvOfficePage *TMaske::NewOPage(const QString &caption)
-{
-    auto *page = new TAdvOfficePage;
-    Components::setOwner(page, this);
-    AutoName(page, this);
-    page->setCaption(caption);
-    return page;
+    setWindowTitle(m_document->Titel());
+    for (QObject *component : Components::components(m_document))
+        if (auto *pager = qobject_cast<TAdvOfficePager *>(component))
+            wirePager(pager);
 }
 
 TMaske::~TMaske()
@@ -95,12 +71,12 @@ TMaske::~TMaske()
 
 void TMaske::setScrollRanges(int horizontal, int vertical)
 {
-    m_surface->setMinimumSize(qBound(0, horizontal, QWIDGETSIZE_MAX), qBound(0, vertical, QWIDGETSIZE_MAX));
+    m_document->setMinimumSize(qBound(0, horizontal, QWIDGETSIZE_MAX), qBound(0, vertical, QWIDGETSIZE_MAX));
 }
 
 QSize TMaske::scrollRanges() const
 {
-    return m_surface->minimumSize();
+    return m_document->minimumSize();
 }
 
 void TMaske::scrollToOrigin()

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "MaskDocument.h"
+
 class QCloseEvent;
 class TAdvOfficePage;
 class TAdvOfficePager;
@@ -13,18 +15,6 @@ class TMaskHost;
 struct TDesignMessage;
 class TcxEditStyleController;
 class TFormDesigner;
-
-// What the loader reads from the table settings file of the mask's table.
-struct TTableSettings
-{
-    QString CadPath; // ends with a separator when set
-    QString Index;
-    QString Dateizaehler;
-    QString Fokus;
-    QString Felder;
-    QStringList AutoFill;
-    QStringList Default;
-};
 
 // A mask window: one data-entry screen inside the main window. The caption is
 // the file name part of Path(); the main window sets both.
@@ -38,30 +28,15 @@ public:
     QString Path() const { return m_path; }
     void setPath(const QString &path);
 
-    QString Titel() const { return m_titel; }
-    void setTitel(const QString &titel) { m_titel = titel; }
-    QString Tabelle() const { return m_tabelle; }
-    void setTabelle(const QString &tabelle) { m_tabelle = tabelle; }
-    int Typ() const { return m_typ; }
-    void setTyp(int typ) { m_typ = typ; }
+    // The mask itself: header, table settings, edit style and controls. It
+    // is the surface the controls are placed on, inside the scroll box.
+    TMaskDocument *document() const { return m_document; }
 
-    // The size the mask was designed for; written to the mask file.
+    // The size the mask was designed for, as the resolution list sets it.
     int DesignHeight() const { return m_designHeight; }
     void setDesignHeight(int height) { m_designHeight = height; }
     int DesignWidth() const { return m_designWidth; }
     void setDesignWidth(int width) { m_designWidth = width; }
-
-    // The screen the mask is designed for, as the resolution list names it
-    // ("1152x869" keeps its 869); this is what the mask file stores.
-    int Pixel() const { return m_pixel; }
-    void setPixel(int pixel) { m_pixel = pixel; }
-    int ScreenHeight() const { return m_screenHeight; }
-    void setScreenHeight(int height) { m_screenHeight = height; }
-    int ScreenWidth() const { return m_screenWidth; }
-    void setScreenWidth(int width) { m_screenWidth = width; }
-
-    const TTableSettings &TableSettings() const { return m_tableSettings; }
-    void setTableSettings(const TTableSettings &settings) { m_tableSettings = settings; }
 
     bool Modified() const { return m_modified; }
     void setModified(bool modified) { m_modified = modified; }
@@ -72,33 +47,18 @@ public:
     // Scrolls both bars back to 0.
     void scrollToOrigin();
 
-    // The container controls are placed on ("Maske"), inside the scroll box.
-    QWidget *designSurface() const { return m_surface; }
     QScrollArea *scrollBox() const { return m_scrollBox; }
 
-    // The window's own components: its designer engine, the edit style every
-    // edit control placed on it shares, and the style of its page controls
-    // (the item index of the pager styles, "Office2003 Blau" = 0).
+    // The window's own engine.
     TFormDesigner *FormDesigner2() const { return m_formDesigner2; }
-    TcxEditStyleController *cxStyleController() const { return m_cxStyleController; }
-    int OfficePagerStyle() const { return m_officePagerStyle; }
-    void setOfficePagerStyle(int style) { m_officePagerStyle = style; }
 
-    // Gives every edit control of the mask without a style the mask's one
-    // (pasted controls come without).
-    void adoptEditStyle();
-
-    // A new page for a page control, owned by the mask and named by the
-    // naming rule, with the given caption; the caller adds it to the pager.
-    TAdvOfficePage *NewOPage(const QString &caption);
+    // After a load into document(): the caption shows the title, the page
+    // controls get the window's handlers.
+    void documentLoaded();
 
     // The main window that holds the mask (not owned); nullptr stands alone.
     void setHost(TMaskHost *host) { m_host = host; }
     TMaskHost *host() const { return m_host; }
-
-    // The two name lists the mask file code works with.
-    QStringList &NameList1() { return m_nameList1; }
-    QStringList &NameList2() { return m_nameList2; }
 
     // Window events, called by Qt's handlers below and by the main window
     // (activation comes from the MDI area).
@@ -144,23 +104,12 @@ private:
 
 private:
     QString m_path;
-    QString m_titel;
-    QString m_tabelle;
-    int m_typ = 0;
     int m_designHeight = 600;
     int m_designWidth = 800;
-    int m_pixel = 32;
-    int m_screenHeight = 600;
-    int m_screenWidth = 800;
-    TTableSettings m_tableSettings;
     bool m_modified = false;
     TMaskHost *m_host = nullptr;
-    QStringList m_nameList1;
-    QStringList m_nameList2;
     bool m_shownOnce = false;
     TFormDesigner *m_formDesigner2 = nullptr;
-    TcxEditStyleController *m_cxStyleController = nullptr;
-    int m_officePagerStyle = 6; // "WindowsXP"
     QPointer<QScrollArea> m_scrollBox;
-    QPointer<QWidget> m_surface;
+    QPointer<TMaskDocument> m_document;
 };

@@ -155,14 +155,14 @@ void TMaske::FormActivate()
     m_formDesigner2->setActive(true);
     if (m_host) {
         m_host->UpdateComponents();
-        m_host->maskActivated(this, m_cxStyleController);
+        m_host->maskActivated(this, m_document->cxStyleController());
     }
 }
 
 void TMaske::FormResize()
 {
     // The size a window of this size leaves for the mask, then its title.
-    setWindowTitle(QStringLiteral("%1 x %2   %3").arg(width() - 16).arg(height() - 39).arg(m_titel));
+    setWindowTitle(QStringLiteral("%1 x %2   %3").arg(width() - 16).arg(height() - 39).arg(m_document->Titel()));
 }
 
 bool TMaske::FormCloseQuery()
@@ -185,8 +185,6 @@ bool TMaske::FormCloseQuery()
 
 void TMaske::FormClose()
 {
-    m_nameList1.clear();
-    m_nameList2.clear();
     if (m_host)
         m_host->maskClosed(this);
 }

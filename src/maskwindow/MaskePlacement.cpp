@@ -40,18 +40,18 @@ void TMaske::FormDesigner2Message(TDesignMessage &msg)
     msg.message = 0;
 
     QWidget *container = nullptr;
-    if (msg.hwnd == m_surface) {
-        container = m_surface;
+    if (msg.hwnd == m_document) {
+        container = m_document;
     } else {
         for (QWidget *c = m_formDesigner2->FindWinControl(msg.hwnd); c; c = c->parentWidget()) {
-            if (c == m_surface || acceptsControls(c)) {
+            if (c == m_document || acceptsControls(c)) {
                 container = c;
                 break;
             }
         }
     }
     const int code = m_host ? m_host->ArmedTool() : 0;
-    if (code == 9 && qobject_cast<TImage *>(Components::findComponent(this, QStringLiteral("View")))) {
+    if (code == 9 && qobject_cast<TImage *>(Components::findComponent(m_document, QStringLiteral("View")))) {
         // One preview per mask: refused, and the designer stays locked.
         if (m_host)
             m_host->placementRefused(this);
@@ -74,16 +74,16 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
     if (code < 1 || code > 20 || !kPaletteClasses[code] || !container)
         return nullptr;
     const QString className = QString::fromLatin1(kPaletteClasses[code]);
-    if (code == 9 && qobject_cast<TImage *>(Components::findComponent(this, QStringLiteral("View"))))
+    if (code == 9 && qobject_cast<TImage *>(Components::findComponent(m_document, QStringLiteral("View"))))
         return nullptr;
 
     QWidget *w = ControlClasses::create(className);
     TControl *c = TControl::from(w);
-    Components::setOwner(w, this);
+    Components::setOwner(w, m_document);
     if (code == 9)
         w->setObjectName(QStringLiteral("View"));
     else
-        AutoName(w, this);
+        AutoName(w, m_document);
     w->setParent(container);
     c->setLeft(pos.x());
     c->setTop(pos.y());
@@ -100,14 +100,14 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
         break;
     case 2: {
         auto *edit = static_cast<TcxTextEdit *>(w);
-        edit->setStyleController(m_cxStyleController);
+        edit->setStyleController(m_document->cxStyleController());
         c->setTabStop(false);
         edit->setReadOnly(false);
         break;
     }
     case 3: {
         auto *combo = static_cast<TcxComboBox *>(w);
-        combo->setStyleController(m_cxStyleController);
+        combo->setStyleController(m_document->cxStyleController());
         c->setParentFont(false);
         combo->setReadOnly(false);
         // The mask's own font, not the combo box's, takes the last tool bar
@@ -125,12 +125,12 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
         break;
     }
     case 4:
-        static_cast<TcxMemo *>(w)->setStyleController(m_cxStyleController);
+        static_cast<TcxMemo *>(w)->setStyleController(m_document->cxStyleController());
         placeholderHint();
         c->setTabStop(false);
         break;
     case 5:
-        static_cast<TcxDBCheckBox *>(w)->setStyleController(m_cxStyleController);
+        static_cast<TcxDBCheckBox *>(w)->setStyleController(m_document->cxStyleController());
         placeholderHint();
         c->setShowHint(true);
         break;
@@ -155,9 +155,9 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
     case 9: {
         c->setBounds(pos.x(), pos.y(), 250, 250);
         toolFont = false;
-        if (!Components::findComponent(this, QStringLiteral("Tab"))) {
+        if (!Components::findComponent(m_document, QStringLiteral("Tab"))) {
             auto *tabs = new TTabSet(container);
-            Components::setOwner(tabs, this);
+            Components::setOwner(tabs, m_document);
             tabs->setObjectName(QStringLiteral("Tab"));
             tabs->setTabs({QStringLiteral(".DWG"), QStringLiteral(".DXF"), QStringLiteral(".JPG"),
                            QStringLiteral(".TGA")});
@@ -176,7 +176,7 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
         break;
     case 12: {
         auto *lookup = static_cast<TcxDBPopupEdit *>(w);
-        lookup->setStyleController(m_cxStyleController);
+        lookup->setStyleController(m_document->cxStyleController());
         lookup->setReadOnly(false);
         c->setTabStop(false);
         placeholderHint();
@@ -190,8 +190,8 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
     case 16: {
         auto *pager = static_cast<TAdvOfficePager *>(w);
         placeholderHint();
-        pager->addPage(NewOPage(QStringLiteral("Seite1")));
-        pager->addPage(NewOPage(QStringLiteral("Seite2")));
+        pager->addPage(m_document->NewOPage(QStringLiteral("Seite1")));
+        pager->addPage(m_document->NewOPage(QStringLiteral("Seite2")));
         wirePager(pager);
         toolFont = false;
         break;

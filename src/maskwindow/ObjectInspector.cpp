@@ -180,7 +180,7 @@ void TObjInsp::UpdateComponents()
     if (m_mask) {
         QHash<QObject *, QTreeWidgetItem *> items;
         QList<QObject *> pages;
-        for (QObject *c : Components::components(m_mask)) {
+        for (QObject *c : Components::components(m_mask->document())) {
             if (!c->isWidgetType() || isHiddenComponent(c))
                 continue;
             if (qobject_cast<TAdvOfficePage *>(c)) {
@@ -219,7 +219,7 @@ void TObjInsp::dxBarTreeViewChange(QTreeWidgetItem *item)
         return;
     QObject *c = item->data(0, Qt::UserRole).value<QObject *>();
     // The entry may outlive its control when the list was not rebuilt yet.
-    if (!c || !Components::components(m_mask).contains(c) || !c->isWidgetType())
+    if (!c || !Components::components(m_mask->document()).contains(c) || !c->isWidgetType())
         return;
     TFormDesigner *designer = m_mask->FormDesigner2();
     designer->ClearControls();

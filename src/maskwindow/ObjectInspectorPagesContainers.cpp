@@ -149,7 +149,7 @@ void TObjInsp::fillOfficePager(QWidget *w)
     m_officePagerAlign->setCurrentIndex(comboIndex(m_officePagerAlign, c->Align()));
     if (c->TabPosition() >= 0 && c->TabPosition() < m_tabPosButtons.size())
         m_tabPosButtons.at(c->TabPosition())->setChecked(true);
-    m_officePagerStyle->setCurrentIndex(m_mask ? comboIndex(m_officePagerStyle, m_mask->OfficePagerStyle()) : -1);
+    m_officePagerStyle->setCurrentIndex(m_mask ? comboIndex(m_officePagerStyle, m_mask->document()->OfficePagerStyle()) : -1);
 }
 
 void TObjInsp::fillOfficePage(QWidget *w)
@@ -221,7 +221,7 @@ void TObjInsp::OfficePagerAlignClick()
             c->setTabPosition(TTabPosition(i));
     // The style belongs to the mask: all its page controls share it.
     if (m_mask && m_officePagerStyle->currentIndex() >= 0)
-        m_mask->setOfficePagerStyle(m_officePagerStyle->currentIndex());
+        m_mask->document()->setOfficePagerStyle(m_officePagerStyle->currentIndex());
     markModified();
 }
 
@@ -233,7 +233,7 @@ void TObjInsp::NewPageBTNClick()
     QString caption = m_newPageCaption->text();
     if (caption.isEmpty())
         caption = QStringLiteral("Neue Seite");
-    TAdvOfficePage *page = m_mask->NewOPage(caption);
+    TAdvOfficePage *page = m_mask->document()->NewOPage(caption);
     pager->addPage(page);
     // The engine takes the new page in like every control it watches.
     if (m_mask->FormDesigner2()->Active())

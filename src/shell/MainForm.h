@@ -34,7 +34,7 @@ class TcxEditStyleController;
 
 // The main window: menus, tool bars, the tab strip and the MDI area holding
 // the mask windows.
-class TMainForm : public QMainWindow, public TMaskHost, public TMaskLoaderHost
+class TMainForm : public QMainWindow, public TMaskHost
 {
     Q_OBJECT
 public:
@@ -72,10 +72,13 @@ public:
 
     QString BaseFolder() const;
 
-    // TMaskLoaderHost: what loading a mask asks of the main window.
-    TMaske *OpenMaskWindow(const QString &fileName) override;
-    void selectResolution(TMaske *mask, const QString &text) override;
-    QString DatabasePath() const override;
+    // Opens a new, empty mask window for the file name; it becomes the active one.
+    TMaske *OpenMaskWindow(const QString &fileName);
+    // Selects the entry "WIDTHxHEIGHT" of the resolution list (none when
+    // there is no such entry) and adapts the mask to it.
+    void selectResolution(TMaske *mask, const QString &text);
+    // The folder that holds the table settings files; ends with a separator.
+    QString DatabasePath() const;
 
     // The main window's own engine, which carries the settings between masks.
     TFormDesigner *FormDesigner1() const { return m_formDesigner1; }

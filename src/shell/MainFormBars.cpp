@@ -2,6 +2,7 @@
 #include "MainForm.h"
 
 #include "Colors.h"
+#include "MaskResolutions.h"
 #include "PaletteIcons.h"
 
 #include <QAction>
@@ -264,9 +265,7 @@ void TMainForm::createModifyBar()
     bar->addWidget(resLabel);
     MaskResList = new QComboBox(bar);
     MaskResList->setObjectName(QStringLiteral("MaskResList"));
-    MaskResList->addItems({QStringLiteral("800x600"), QStringLiteral("1024x768"), QStringLiteral("1152x869"),
-                           QStringLiteral("1280x1024"), QStringLiteral("1600x1200"), QStringLiteral("1920x1080"),
-                           QStringLiteral("1920x1200")});
+    MaskResList->addItems(MaskResolutions::texts());
     MaskResList->setCurrentIndex(3);
     resLabel->setBuddy(MaskResList);
     bar->addWidget(MaskResList);

@@ -308,7 +308,7 @@ void TMainForm::maskActivated(TMaske *mask, TcxEditStyleController *styleControl
     // does not offer).
     const QSignalBlocker block(MaskResList);
     MaskResList->setCurrentIndex(
-        MaskResList->findText(QStringLiteral("%1x%2").arg(mask->ScreenWidth()).arg(mask->ScreenHeight())));
+        MaskResList->findText(QStringLiteral("%1x%2").arg(mask->document()->ScreenWidth()).arg(mask->document()->ScreenHeight())));
 }
 
 void TMainForm::UpdateComponents()
@@ -357,7 +357,7 @@ void TMainForm::PasteItemClick()
     if (TFormDesigner *designer = activeDesigner())
         designer->PasteFromClipboard();
     if (TMaske *mask = activeMask())
-        mask->adoptEditStyle();
+        mask->document()->adoptEditStyle();
     UpdateBtn();
 }
 

@@ -38,7 +38,17 @@ TMaske *TMainForm::LoadMask(const QString &fileName)
         return nullptr;
     // Never refused: a file that cannot be read gives an empty mask, as the
     // runtime would show it.
-    return MaskLoader::LoadMask(*this, fileName);
+    TMaske *mask = OpenMaskWindow(fileName);
+    // No handles while the controls are made.
+    mask->FormDesigner2()->setActive(false);
+    MaskLoader::LoadMask(*mask->document(), fileName, DatabasePath(), nullptr, [this, mask](TMaskDocument &document) {
+        selectResolution(mask, QStringLiteral("%1x%2").arg(document.ScreenWidth()).arg(document.ScreenHeight()));
+    });
+    mask->documentLoaded();
+    UpdateComponents();
+    mask->setModified(false);
+    mask->FormDesigner2()->setActive(true);
+    return mask;
 }
 
 void TMainForm::FileCloseItemClick()
@@ -83,11 +93,13 @@ bool TMainForm::SaveMask(const QString &fileName)
     TMaske *mask = activeMask();
     if (!mask)
         return false;
+    mask->scrollToOrigin(); // the user sees the mask as it is stored
     QString error;
-    if (!MaskWriter::SaveMask(mask, fileName, &error)) {
+    if (!MaskWriter::SaveMask(*mask->document(), fileName, &error)) {
         UserDialogs::instance().messageDlg(this, error, mtError, mbOK);
         return false;
     }
+    mask->setModified(false);
     return true;
 }
 

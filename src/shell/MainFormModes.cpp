@@ -2,6 +2,7 @@
 #include "MainForm.h"
 
 #include "FormDesigner.h"
+#include "MaskResolutions.h"
 #include "Maske.h"
 #include "ObjectInspector.h"
 #include "SetupDialog.h"
@@ -15,21 +16,6 @@
 #include <QToolBar>
 
 namespace {
-// The entries of the resolution list: what the mask is designed for and how
-// big its window gets. Heights leave 127 pixels of the screen to the main
-// window, widths add 15 for the frame; "1152x869" keeps its text although
-// its numbers follow a screen 864 pixels high.
-struct Resolution
-{
-    int designHeight;
-    int designWidth;
-    int windowHeight;
-    int windowWidth;
-};
-const Resolution kResolutions[] = {
-    {473, 800, 473, 815},    {641, 1024, 641, 1039},   {737, 1152, 737, 1167},  {897, 1280, 897, 1295},
-    {1073, 1600, 1073, 1615}, {953, 1920, 953, 1935}, {1073, 1920, 1073, 1935},
-};
 // The bars that belong to designing; the others stay in run mode.
 const int kDesignBars[] = {TMainForm::EditMenuBar, TMainForm::FontBar, TMainForm::ElementsBar,
                            TMainForm::ModifyMenuBar};
@@ -68,23 +54,8 @@ void TMainForm::RunMode1Click()
 
 void TMainForm::dxBar1024x768Click()
 {
-    TMaske *mask = activeMask();
-    if (!mask)
-        return;
-    mask->setScrollRanges(width(), height() - 127);
-    const int index = MaskResList->currentIndex();
-    if (index < 0 || index >= int(std::size(kResolutions)))
-        return;
-    const Resolution &r = kResolutions[index];
-    mask->setDesignHeight(r.designHeight);
-    mask->setDesignWidth(r.designWidth);
-    mask->resize(r.windowWidth, r.windowHeight);
-    // The mask file keeps the entry as its text reads.
-    const QStringList parts = MaskResList->currentText().split(QLatin1Char('x'));
-    if (parts.size() == 2) {
-        mask->setScreenWidth(parts.at(0).toInt());
-        mask->setScreenHeight(parts.at(1).toInt());
-    }
+    if (TMaske *mask = activeMask())
+        MaskResolutions::apply(mask, MaskResList->currentIndex(), size());
 }
 
 void TMainForm::dxBarNormalClick()

@@ -64,7 +64,7 @@ TMaske *TMainForm::OpenMaskWindow(const QString &fileName)
     mask->setHost(this);
     mask->FormDesigner2()->setPopupMenu(m_popupMenu1);
     mask->setWindowTitle(QFileInfo(fileName).fileName());
-    mask->setTitel(QFileInfo(fileName).fileName());
+    mask->document()->setTitel(QFileInfo(fileName).fileName());
     mask->setPath(fileName);
     mask->FormDesigner2()->setActive(true);
     mask->setWindowIcon(PaletteIcons::maskIcon());

@@ -5,7 +5,6 @@
 #include "Containers.h"
 #include "EditStyle.h"
 #include "Edits.h"
-#include "FormDesigner.h"
 #include "Graphics.h"
 #include "Grids.h"
 #include "MaskLoader.h"
@@ -15,14 +14,12 @@
 #include "helper_masks.h"
 
 using namespace MaskTest;
-using namespace ShellTest;
 
 class TestLoading : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { flushDeletes(); }
     void everyKindTakesItsKeys();
     void missingKeysTakeTheirDefaults();
     void parentsResolveByName();
@@ -326,11 +323,7 @@ Height=20
 Width=130
 FSize=7
 )"));
-    auto form = showMainForm();
-    TMaske *mask = form->LoadMask(file);
-    QVERIFY(mask);
-    QVERIFY(!mask->Modified());
-    QVERIFY(mask->FormDesigner2()->Active());
+    TMaskDocument *mask = home.load(file);
     QCOMPARE(mask->Tabelle(), QStringLiteral("Kunden"));
     QCOMPARE(mask->Titel(), QStringLiteral("Kundenstamm"));
     QCOMPARE(mask->Typ(), 2);
@@ -502,8 +495,7 @@ void TestLoading::missingKeysTakeTheirDefaults()
     writeMask(file, QStringLiteral("[Label_1]\n[Field_1]\n[CField_1]\n[LField_1]\n[Memo_1]\n[CheckBox_1]\n"
                                    "[Panel_1]\n[PageControl_1]\n[Button_1]\n[DBBrowser_1]\n[DBTreeList_1]\n"
                                    "[DBRadioGroup_1]\n[DBLabel_1]\n"));
-    auto form = showMainForm();
-    TMaske *mask = form->LoadMask(file);
+    TMaskDocument *mask = home.load(file);
     QCOMPARE(mask->Titel(), QStringLiteral("Maske"));
     QCOMPARE(mask->cxStyleController()->BorderStyle(), ebs3D);
     QCOMPARE(mask->cxStyleController()->Edges(), kAllEdges);
@@ -567,9 +559,8 @@ void TestLoading::parentsResolveByName()
                                    "[Label_2]\nParent=Panel2\n"
                                    "[Label_3]\nParent=Label2\n"
                                    "[Bevel_1]\nParent=Maske\n"));
-    auto form = showMainForm();
-    TMaske *mask = form->LoadMask(file);
-    QWidget *surface = mask->designSurface();
+    TMaskDocument *mask = home.load(file);
+    QWidget *surface = mask;
     // A control naming itself, a control made later, a bevel or a label
     // cannot hold it: it lands on the mask.
     QCOMPARE(component<TPanel>(mask, "Panel1")->parentWidget(), surface);
@@ -596,11 +587,10 @@ void TestLoading::tabOrdersAndTheSortSection()
     writeMask(file, QStringLiteral("[Field_1]\nTabOrder=3\n[Field_2]\nTabOrder=1\n[Memo_1]\nTabOrder=2\n"
                                    "[Button_1]\nTabOrder=0\n[Button_2]\nTabOrder=4\n"
                                    "[Sort]\n0=3-Button2\n4=3-Button1\n1=0-Feld2\n7=3-Button9\nx=ERROR\n"));
-    auto form = showMainForm();
-    TMaske *mask = form->LoadMask(file);
+    TMaskDocument *mask = home.load(file);
     // Only the button stem can match a loaded control: MaskBtn1 moves to 4,
     // MaskBtn2 to 0; the fields keep their own TabOrder keys.
-    const QList<QWidget *> order = Containers::tabList(mask->designSurface());
+    const QList<QWidget *> order = Containers::tabList(mask);
     QStringList names;
     for (QWidget *w : order)
         names << w->objectName();
@@ -617,8 +607,7 @@ void TestLoading::headerAndTableSettings()
     const QString file = home.path(QStringLiteral("artikel.dbm"));
     writeMask(file, QStringLiteral("[DATENBANK]\nTabelle=Artikel.dat\nTitel=Artikelstamm\n"
                                    "[datenbank]\nHeight=600\nWidth=800\nPixel=16\n"));
-    auto form = showMainForm();
-    TMaske *mask = form->LoadMask(file);
+    TMaskDocument *mask = home.load(file);
     QCOMPARE(mask->Tabelle(), QStringLiteral("Artikel"));
     QCOMPARE(mask->Titel(), QStringLiteral("Artikelstamm"));
     QCOMPARE(mask->Pixel(), 16);
@@ -630,18 +619,14 @@ void TestLoading::headerAndTableSettings()
     QCOMPARE(t.Felder, QStringLiteral("ARTNR;NAME"));
     QCOMPARE(t.AutoFill, QStringList{QStringLiteral("DATUM=%DATE%")});
     QCOMPARE(t.Default, QStringList({"MENGE=1", "EINHEIT=Stk"}));
-    // 800x600 is in the list: the window takes its size.
-    QCOMPARE(form->resolutionList()->currentText(), QStringLiteral("800x600"));
-    QCOMPARE(mask->size(), QSize(815, 473));
 
     // The older spelling of the extension is found too.
     QVERIFY(QFile::rename(home.databaseFolder() + QStringLiteral("Artikel.ini"),
                           home.databaseFolder() + QStringLiteral("Artikel.Ini")));
-    QCOMPARE(form->LoadMask(file)->TableSettings().Index, QStringLiteral("ARTNR"));
-    // A resolution the list does not offer selects nothing and keeps the file's.
+    QCOMPARE(home.load(file)->TableSettings().Index, QStringLiteral("ARTNR"));
+    // Any resolution is kept as the file has it.
     writeMask(file, QStringLiteral("[DatenBank]\nHeight=700\nWidth=1000\n"));
-    TMaske *odd = form->LoadMask(file);
-    QCOMPARE(form->resolutionList()->currentIndex(), -1);
+    TMaskDocument *odd = home.load(file);
     QVERIFY(sectionLines(savedText(odd), "Datenbank").contains("Height=700"));
     QVERIFY(odd->TableSettings().Index.isEmpty());
 }
@@ -649,19 +634,18 @@ void TestLoading::headerAndTableSettings()
 void TestLoading::oddFilesNeverBreakTheLoad()
 {
     Fixture home;
-    auto form = showMainForm();
 
     // Gaps in the numbering are harmless; above 1000 nothing is loaded.
     const QString gaps = home.path(QStringLiteral("gaps.dbm"));
     writeMask(gaps, QStringLiteral("[Label_2]\nName=zwei\n[Label_1000]\nName=tausend\n[Field_1001]\nName=X\n"));
-    TMaske *mask = form->LoadMask(gaps);
+    TMaskDocument *mask = home.load(gaps);
     QCOMPARE(controlClasses(mask), QStringList({"TLabel", "TLabel"}));
 
     // Extreme numbers are clamped, never trusted.
     const QString huge = home.path(QStringLiteral("huge.dbm"));
     writeMask(huge, QStringLiteral("[Panel_1]\nLeft=-2147483648\nTop=2147483647\nWidth=-2147483648\nHeight=99999999999\n"
                                    "BWidth=-5\nBInner=77\nFSize=-2147483648\nAlignment=0\n[DBRadioGroup_1]\nColumns=-2147483648\n"));
-    mask = form->LoadMask(huge);
+    mask = home.load(huge);
     auto *panel = component<TPanel>(mask, "Panel1");
     QVERIFY(panel);
     QCOMPARE(panel->Width(), 0);
@@ -676,10 +660,10 @@ void TestLoading::oddFilesNeverBreakTheLoad()
         bytes.append(char((i * 7919) % 256));
     bytes.append("\n[Label_1]\nName=\0\x01\xff\n", 20);
     QVERIFY(writeFileBytes(garbage, bytes));
-    mask = form->LoadMask(garbage);
+    mask = home.load(garbage);
     QVERIFY(mask);
     QString error;
-    mask = MaskLoader::LoadMask(*form, home.path(QStringLiteral("fehlt.dbm")), &error);
+    mask = home.load(home.path(QStringLiteral("fehlt.dbm")), &error);
     QVERIFY(!error.isEmpty());
     QVERIFY(controlClasses(mask).isEmpty());
     QCOMPARE(mask->Titel(), QStringLiteral("Maske"));
@@ -690,7 +674,7 @@ void TestLoading::oddFilesNeverBreakTheLoad()
     for (int i = 0; i < 1000000; ++i)
         many += "[S" + QByteArray::number(i) + "]\r\n";
     QVERIFY(writeFileBytes(big, many));
-    mask = form->LoadMask(big);
+    mask = home.load(big);
     QCOMPARE(component<TLabel>(mask, "Label1")->Caption().size(), 1024 * 1024);
 }
 

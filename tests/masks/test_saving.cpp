@@ -1,6 +1,5 @@
-// Saving mask windows: the sections and their keys in the runtime's order,
-// the numbering and visiting rules, pick-list blocks, the tab order section
-// and the backup.
+// Saving masks: the sections and their keys in the runtime's order, the
+// numbering and visiting rules, pick-list blocks and the tab order section.
 #include <QtTest>
 
 #include "Edits.h"
@@ -11,7 +10,6 @@
 #include "helper_masks.h"
 
 using namespace MaskTest;
-using namespace ShellTest;
 
 namespace {
 // A label of a class of its own: not one the mask file knows.
@@ -45,23 +43,34 @@ class TestSaving : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { flushDeletes(); }
     void everyKindWritesItsKeysInOrder();
     void visitingOrderAndNumbering();
     void pickListsAndSortLines();
-    void backupAndFailure();
 };
 
 void TestSaving::everyKindWritesItsKeysInOrder()
 {
     Fixture home;
-    auto form = showMainForm();
-    form->FileNewItemClick();
-    TMaske *mask = form->activeMask();
-    QWidget *surface = mask->designSurface();
-    for (int code : {16, 17, 1, 10, 2, 3, 12, 4, 5, 8, 13, 11, 7, 6, 19, 20, 18, 9})
-        QVERIFY(mask->placeControl(code, surface, QPoint(10, 10 + code * 30)));
-    QVERIFY(mask->placeControl(6, surface, QPoint(500, 10))); // a second grid
+    TMaskDocument *mask = home.newDocument();
+    makePager(mask);
+    make<TPanel>(mask);
+    make<TLabel>(mask);
+    make<TDBLabel>(mask);
+    make<TcxTextEdit>(mask);
+    make<TcxComboBox>(mask);
+    make<TcxDBPopupEdit>(mask);
+    make<TcxMemo>(mask);
+    make<TcxDBCheckBox>(mask);
+    make<TBevel>(mask);
+    make<TImageAspect>(mask);
+    make<TShape>(mask);
+    make<TMaskBtn>(mask);
+    make<TDBGrid>(mask);
+    make<TcxDBTreeList>(mask);
+    make<TStringGrid>(mask);
+    make<TDBRadioGroup>(mask);
+    makePreview(mask);
+    make<TDBGrid>(mask); // a second grid
 
     const QString text = savedText(mask);
     QCOMPARE(sectionNames(text),
@@ -144,20 +153,16 @@ void TestSaving::everyKindWritesItsKeysInOrder()
 void TestSaving::visitingOrderAndNumbering()
 {
     Fixture home;
-    auto form = showMainForm();
-    form->FileNewItemClick();
-    TMaske *mask = form->activeMask();
-    QWidget *surface = mask->designSurface();
+    TMaskDocument *mask = home.newDocument();
 
-    auto *first = qobject_cast<TDBGrid *>(mask->placeControl(6, surface, QPoint(10, 10)));
-    auto *label = qobject_cast<TLabel *>(mask->placeControl(1, surface, QPoint(10, 300)));
-    auto *fancy = new TFancyLabel(surface);
+    auto *first = make<TDBGrid>(mask);
+    auto *label = make<TLabel>(mask);
+    auto *fancy = new TFancyLabel(mask);
     Components::setOwner(fancy, mask);
     AutoName(fancy, mask);
     fancy->setCaption(QStringLiteral("Nicht gespeichert"));
-    auto *second = qobject_cast<TDBGrid *>(mask->placeControl(6, surface, QPoint(300, 10)));
-    auto *label2 = qobject_cast<TLabel *>(mask->placeControl(1, surface, QPoint(10, 330)));
-    QVERIFY(first && second && label && label2);
+    make<TDBGrid>(mask);
+    auto *label2 = make<TLabel>(mask);
     label->setCaption(QStringLiteral("Erste"));
     label2->setCaption(QStringLiteral("Zweite"));
     label2->setFont(TFont{QStringLiteral("Arial"), 9, Colors::clRed,
@@ -181,18 +186,14 @@ void TestSaving::visitingOrderAndNumbering()
 void TestSaving::pickListsAndSortLines()
 {
     Fixture home;
-    auto form = showMainForm();
-    form->FileNewItemClick();
-    TMaske *mask = form->activeMask();
-    QWidget *surface = mask->designSurface();
+    TMaskDocument *mask = home.newDocument();
 
-    auto *panelA = mask->placeControl(17, surface, QPoint(0, 0));
-    auto *panelB = mask->placeControl(17, surface, QPoint(0, 200));
-    auto *c1 = qobject_cast<TcxComboBox *>(mask->placeControl(3, panelA, QPoint(10, 10)));
-    auto *c2 = qobject_cast<TcxComboBox *>(mask->placeControl(3, panelB, QPoint(10, 10)));
-    auto *c3 = qobject_cast<TcxComboBox *>(mask->placeControl(3, panelB, QPoint(10, 40)));
-    auto *c4 = qobject_cast<TcxComboBox *>(mask->placeControl(3, panelB, QPoint(10, 70)));
-    QVERIFY(c1 && c2 && c3 && c4);
+    auto *panelA = make<TPanel>(mask);
+    auto *panelB = make<TPanel>(mask);
+    auto *c1 = make<TcxComboBox>(mask, panelA);
+    auto *c2 = make<TcxComboBox>(mask, panelB);
+    auto *c3 = make<TcxComboBox>(mask, panelB);
+    auto *c4 = make<TcxComboBox>(mask, panelB);
     c1->setHint(QStringLiteral("Anreden"));
     c1->setItems({QStringLiteral("Herr"), QStringLiteral("Frau")});
     c2->setHint(QStringLiteral("Anreden"));
@@ -213,51 +214,9 @@ void TestSaving::pickListsAndSortLines()
     QCOMPARE(sectionLines(text, "Sort"), QStringList({"0=1-CFeld2", "1=1-CFeld3", "2=1-CFeld4"}));
 
     // The file is Windows-1252 with CR LF.
-    const QByteArray bytes = MaskWriter::MaskFileBytes(mask);
+    const QByteArray bytes = MaskWriter::MaskFileBytes(*mask);
     QVERIFY(bytes.contains("\xd6sterreich\r\n"));
     QVERIFY(!bytes.contains("\n\n"));
-}
-
-void TestSaving::backupAndFailure()
-{
-    Fixture home;
-    ScriptedDialogs dialogs;
-    auto form = showMainForm();
-    const QString file = home.path(QStringLiteral("Kunden.dbm"));
-    const QString backup = home.path(QStringLiteral("Kunden.dbm_bak"));
-    writeMask(file, QStringLiteral("[Datenbank]\nTitel=Alt\n[Label_1]\nName=eins\n"));
-
-    TMaske *mask = form->LoadMask(file);
-    auto *label = component<TLabel>(mask, "Label1");
-    label->setCaption(QStringLiteral("zwei"));
-    mask->setModified(true);
-    const QByteArray original = readFileBytes(file);
-    clickTool(form.get(), "FileSaveItem");
-    QCOMPARE(readFileBytes(backup), original);
-    const QByteArray second = readFileBytes(file);
-    QVERIFY(second.contains("Name=zwei\r\n"));
-    QVERIFY(!mask->Modified());
-
-    // Saving twice keeps only the state before the second save.
-    label->setCaption(QStringLiteral("drei"));
-    clickTool(form.get(), "FileSaveItem");
-    QCOMPARE(readFileBytes(backup), second);
-    QVERIFY(readFileBytes(file).contains("Name=drei\r\n"));
-
-    // A target that cannot be written: the user reads why, the mask stays
-    // changed and nothing on disk is touched.
-    const QString blocked = home.path(QStringLiteral("Ordner.dbm"));
-    QVERIFY(QDir().mkpath(blocked));
-    mask->setPath(blocked);
-    mask->setModified(true);
-    dialogs.messageAnswers << mrOk;
-    clickTool(form.get(), "FileSaveItem");
-    QCOMPARE(dialogs.messages.size(), 1);
-    QCOMPARE(dialogs.messages.at(0).type, mtError);
-    QVERIFY(dialogs.messages.at(0).text.contains(QLatin1String("Ordner.dbm")));
-    QVERIFY(mask->Modified());
-    QVERIFY(QFileInfo(blocked).isDir());
-    QVERIFY(!QFileInfo::exists(home.path(QStringLiteral("Ordner.dbm_bak"))));
 }
 
 QTEST_MAIN(TestSaving)

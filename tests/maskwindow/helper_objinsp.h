@@ -38,9 +38,9 @@ struct InspFixture
     template <class T>
     T *add(QWidget *parent = nullptr, const QRect &r = QRect(10, 10, 120, 24))
     {
-        auto *c = new T(parent ? parent : mask->designSurface());
-        Components::setOwner(c, mask);
-        AutoName(c, mask);
+        auto *c = new T(parent ? parent : mask->document());
+        Components::setOwner(c, mask->document());
+        AutoName(c, mask->document());
         c->setBounds(r.x(), r.y(), r.width(), r.height());
         c->show();
         mask->FormDesigner2()->Update();

@@ -67,7 +67,7 @@ struct MaskFixture
     }
     ~MaskFixture() { delete mask; }
 
-    QWidget *surface() const { return mask->designSurface(); }
+    QWidget *surface() const { return mask->document(); }
     TFormDesigner *designer() const { return mask->FormDesigner2(); }
 
     // A palette click arms the tool and holds the designer; then the user clicks.
@@ -100,10 +100,10 @@ void TestMaske::placementNamesParentsAndSelects()
 
     for (int i = 0; i < 3; ++i)
         f.place(1, f.surface(), QPoint(20, 20 + 30 * i));
-    QObject *label2 = Components::findComponent(f.mask, QStringLiteral("Label2"));
-    QVERIFY(Components::findComponent(f.mask, QStringLiteral("Label1")));
+    QObject *label2 = Components::findComponent(f.mask->document(), QStringLiteral("Label2"));
+    QVERIFY(Components::findComponent(f.mask->document(), QStringLiteral("Label1")));
     QVERIFY(label2);
-    QVERIFY(Components::findComponent(f.mask, QStringLiteral("Label3")));
+    QVERIFY(Components::findComponent(f.mask->document(), QStringLiteral("Label3")));
     QCOMPARE(static_cast<QWidget *>(label2)->pos(), QPoint(20, 50));
     QCOMPARE(f.host.calls.count(QStringLiteral("done")), 3);
     QCOMPARE(f.designer()->currentControl()->objectName(), QStringLiteral("Label3"));
@@ -138,9 +138,9 @@ void TestMaske::placementNamesParentsAndSelects()
     QCOMPARE(f.designer()->currentControl()->parentWidget(), static_cast<QWidget *>(page));
 
     // Without an armed tool the click still ends the placement, placing nothing.
-    const int before = Components::componentCount(f.mask);
+    const int before = Components::componentCount(f.mask->document());
     f.place(0, f.surface(), QPoint(500, 400));
-    QCOMPARE(Components::componentCount(f.mask), before);
+    QCOMPARE(Components::componentCount(f.mask->document()), before);
 
     // Without the designer held, a click selects as usual.
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(3, 3));
@@ -163,7 +163,7 @@ void TestMaske::everyPaletteCodePlacesItsKind()
         QVERIFY2(w, qPrintable(kind.second));
         QCOMPARE(QString::fromLatin1(w->metaObject()->className()), kind.second);
         QCOMPARE(w->pos(), QPoint(4, y));
-        QCOMPARE(Components::owner(w), static_cast<QObject *>(f.mask));
+        QCOMPARE(Components::owner(w), static_cast<QObject *>(f.mask->document()));
         QCOMPARE(f.designer()->currentControl(), w);
         // Bevels, shapes, pictures, pagers, panels and radio groups keep their own font.
         const bool noToolFont = QList<int>{8, 11, 13, 16, 17, 18}.contains(kind.first);
@@ -196,8 +196,8 @@ void TestMaske::thePreviewImageIsMadeOnce()
 {
     MaskFixture f;
     f.place(9, f.surface(), QPoint(40, 30));
-    auto *view = qobject_cast<TImage *>(Components::findComponent(f.mask, QStringLiteral("View")));
-    auto *tab = qobject_cast<TTabSet *>(Components::findComponent(f.mask, QStringLiteral("Tab")));
+    auto *view = qobject_cast<TImage *>(Components::findComponent(f.mask->document(), QStringLiteral("View")));
+    auto *tab = qobject_cast<TTabSet *>(Components::findComponent(f.mask->document(), QStringLiteral("Tab")));
     QVERIFY(view && tab);
     QCOMPARE(view->geometry(), QRect(40, 30, 250, 250));
     QCOMPARE(tab->geometry(), QRect(40, 280, 250, 22));
@@ -213,7 +213,7 @@ void TestMaske::thePreviewImageIsMadeOnce()
     // "View" deleted but "Tab" kept: a new image comes without a second strip.
     delete view;
     f.place(9, f.surface(), QPoint(400, 30));
-    QVERIFY(Components::findComponent(f.mask, QStringLiteral("View")));
+    QVERIFY(Components::findComponent(f.mask->document(), QStringLiteral("View")));
     QCOMPARE(f.surface()->findChildren<TTabSet *>().size(), 1);
 }
 
@@ -221,7 +221,7 @@ void TestMaske::captionCloseQuestionAndKeys()
 {
     ScriptedDialogs dialogs;
     MaskFixture f;
-    f.mask->setTitel(QStringLiteral("Kunden"));
+    f.mask->document()->setTitel(QStringLiteral("Kunden"));
     f.mask->resize(816, 639);
     QCOMPARE(f.mask->windowTitle(), QStringLiteral("800 x 600   Kunden"));
 

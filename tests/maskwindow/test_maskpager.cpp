@@ -21,7 +21,7 @@ struct PagerFixture
     {
         mask->resize(700, 500);
         mask->show();
-        pager = qobject_cast<TAdvOfficePager *>(mask->placeControl(16, mask->designSurface(), QPoint(20, 30)));
+        pager = qobject_cast<TAdvOfficePager *>(mask->placeControl(16, mask->document(), QPoint(20, 30)));
         mask->FormDesigner2()->setActive(false);
         mask->setModified(false);
     }
@@ -30,7 +30,7 @@ struct PagerFixture
     // The pager's own area right of its tabs.
     QPoint free() const { return QPoint(pager->width() - 20, 6); }
     // Where a point of the surface is in the pager's coordinates now.
-    QPoint fromSurface(const QPoint &p) const { return pager->mapFrom(mask->designSurface(), p); }
+    QPoint fromSurface(const QPoint &p) const { return pager->mapFrom(mask->document(), p); }
 };
 
 Qt::CursorShape overrideShape()
@@ -74,7 +74,7 @@ void TestMaskPager::leftButtonDragsAndReleaseDrops()
 
     // The first move with the left button takes the pager where the mouse
     // is then, and it follows.
-    const QPoint start = f.pager->mapTo(f.mask->designSurface(), f.free()) + QPoint(1, 1);
+    const QPoint start = f.pager->mapTo(f.mask->document(), f.free()) + QPoint(1, 1);
     QTest::mousePress(f.pager, Qt::LeftButton, {}, f.free());
     QCOMPARE(f.mask->draggedPager(), nullptr);
     QTest::mouseMove(f.pager, f.fromSurface(start));
@@ -97,15 +97,15 @@ void TestMaskPager::leftButtonDragsAndReleaseDrops()
     // Taken by a tab, beyond the surface's corner: it stops at the edge.
     f.mask->setModified(false);
     const QPoint tab = f.pager->tabBar()->tabRect(1).center();
-    const QPoint tabStart = f.pager->tabBar()->mapTo(f.mask->designSurface(), tab);
+    const QPoint tabStart = f.pager->tabBar()->mapTo(f.mask->document(), tab);
     QTest::mousePress(f.pager->tabBar(), Qt::LeftButton, {}, tab);
     QCOMPARE(f.pager->ActivePageIndex(), 1);
-    QTest::mouseMove(f.pager->tabBar(), f.pager->tabBar()->mapFrom(f.mask->designSurface(), tabStart + QPoint(2, 2)));
+    QTest::mouseMove(f.pager->tabBar(), f.pager->tabBar()->mapFrom(f.mask->document(), tabStart + QPoint(2, 2)));
     QCOMPARE(f.mask->draggedPager(), f.pager);
     const QPoint far = tabStart - QPoint(500, 500);
-    QTest::mouseMove(f.pager->tabBar(), f.pager->tabBar()->mapFrom(f.mask->designSurface(), far));
+    QTest::mouseMove(f.pager->tabBar(), f.pager->tabBar()->mapFrom(f.mask->document(), far));
     QCOMPARE(f.pager->pos(), QPoint(0, 0));
-    QTest::mouseRelease(f.pager->tabBar(), Qt::LeftButton, {}, f.pager->tabBar()->mapFrom(f.mask->designSurface(), far));
+    QTest::mouseRelease(f.pager->tabBar(), Qt::LeftButton, {}, f.pager->tabBar()->mapFrom(f.mask->document(), far));
     QCOMPARE(f.mask->draggedPager(), nullptr);
     QCOMPARE(f.pager->pos(), QPoint(0, 0));
     QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
@@ -126,9 +126,9 @@ void TestMaskPager::onlyWiredPagersOutsideTheDesignerDrag()
     PagerFixture f;
 
     // A pager the mask did not wire keeps its place.
-    auto *loose = new TAdvOfficePager(f.mask->designSurface());
+    auto *loose = new TAdvOfficePager(f.mask->document());
     loose->setBounds(300, 250, 200, 120);
-    loose->addPage(f.mask->NewOPage(QStringLiteral("Seite1")));
+    loose->addPage(f.mask->document()->NewOPage(QStringLiteral("Seite1")));
     loose->show();
     const QPoint at(loose->width() - 10, 6);
     QTest::mousePress(loose, Qt::LeftButton, {}, at);
@@ -152,7 +152,7 @@ void TestMaskPager::onlyWiredPagersOutsideTheDesignerDrag()
     // a pager placed while the engine watches.
     f.mask->FormDesigner2()->setActive(true);
     auto *designed =
-        qobject_cast<TAdvOfficePager *>(f.mask->placeControl(16, f.mask->designSurface(), QPoint(20, 250)));
+        qobject_cast<TAdvOfficePager *>(f.mask->placeControl(16, f.mask->document(), QPoint(20, 250)));
     for (TAdvOfficePager *p : {f.pager, designed}) {
         const QPoint free(p->width() - 20, 6);
         QTest::mousePress(p, Qt::LeftButton, {}, free);

@@ -70,7 +70,7 @@ void TestObjInsp::componentListAndChoosingAnEntry()
     auto *same = f.add<TLabel>(nullptr, QRect(10, 70, 120, 24));
     same->setCaption(same->objectName());
     auto *pager = f.add<TAdvOfficePager>(nullptr, QRect(200, 10, 300, 200));
-    TAdvOfficePage *page = f.mask->NewOPage(QStringLiteral("Adresse"));
+    TAdvOfficePage *page = f.mask->document()->NewOPage(QStringLiteral("Adresse"));
     pager->addPage(page);
     f.insp.UpdateComponents();
 

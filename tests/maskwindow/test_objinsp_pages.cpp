@@ -162,11 +162,11 @@ void TestObjInspPages::pagerPageAndNewPages()
 {
     InspFixture f;
     auto *pager = f.add<TAdvOfficePager>(nullptr, QRect(10, 10, 300, 200));
-    TAdvOfficePage *first = f.mask->NewOPage(QStringLiteral("Allgemein"));
+    TAdvOfficePage *first = f.mask->document()->NewOPage(QStringLiteral("Allgemein"));
     pager->addPage(first);
     f.insp.UpdateComponents();
     f.select({pager});
-    QCOMPARE(f.editor<QComboBox>(QStringLiteral("CBOfficePagerStyle"))->currentIndex(), f.mask->OfficePagerStyle());
+    QCOMPARE(f.editor<QComboBox>(QStringLiteral("CBOfficePagerStyle"))->currentIndex(), f.mask->document()->OfficePagerStyle());
     QVERIFY(!f.mask->Modified());
 
     choose(f.editor<QComboBox>(QStringLiteral("OfficePagerAlign")), 5);
@@ -174,7 +174,7 @@ void TestObjInspPages::pagerPageAndNewPages()
     choose(f.editor<QComboBox>(QStringLiteral("CBOfficePagerStyle")), 4);
     QCOMPARE(pager->Align(), alClient);
     QCOMPARE(pager->TabPosition(), tpBottom);
-    QCOMPARE(f.mask->OfficePagerStyle(), 4);
+    QCOMPARE(f.mask->document()->OfficePagerStyle(), 4);
 
     // An empty caption gives the standard one.
     QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("NewPageBTN")), Qt::LeftButton);
@@ -182,7 +182,7 @@ void TestObjInspPages::pagerPageAndNewPages()
     TAdvOfficePage *added = pager->Pages(1);
     QCOMPARE(added->Caption(), QStringLiteral("Neue Seite"));
     QCOMPARE(pager->ActivePage(), added);
-    QCOMPARE(Components::owner(added), static_cast<QObject *>(f.mask));
+    QCOMPARE(Components::owner(added), static_cast<QObject *>(f.mask->document()));
 
     auto *caption = f.editor<QLineEdit>(QStringLiteral("NewPageCaption"));
     QTest::keyClicks(caption, QStringLiteral("Details"));

@@ -334,7 +334,7 @@ void TestObjInspTools::paletteFollowsSelectionAndPlacement()
     QTest::mouseClick(f.insp.paletteButton(QStringLiteral("TPanel")), Qt::LeftButton);
     host.tool = 4; // memo
     f.mask->FormDesigner2()->Lock();
-    QTest::mouseClick(f.mask->designSurface(), Qt::LeftButton, {}, QPoint(300, 200));
+    QTest::mouseClick(f.mask->document(), Qt::LeftButton, {}, QPoint(300, 200));
     QVERIFY(qobject_cast<TcxMemo *>(f.mask->FormDesigner2()->currentControl()));
     QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("TcxMemo"));
     QVERIFY(f.insp.paletteButton(QStringLiteral("TcxMemo"))->isChecked());

@@ -251,18 +251,18 @@ void TestStyleDlg::cancelKeepsTheNewStyleOnTheMask()
     mask->resize(500, 400);
     mask->show();
     QVERIFY(QTest::qWaitForWindowExposed(mask));
-    auto *edit = qobject_cast<TcxTextEdit *>(mask->placeControl(2, mask->designSurface(), {10, 10}));
+    auto *edit = qobject_cast<TcxTextEdit *>(mask->placeControl(2, mask->document(), {10, 10}));
     QVERIFY(edit);
-    QCOMPARE(edit->StyleController(), mask->cxStyleController());
-    auto *memo = qobject_cast<TcxMemo *>(mask->placeControl(4, mask->designSurface(), {10, 60}));
+    QCOMPARE(edit->StyleController(), mask->document()->cxStyleController());
+    auto *memo = qobject_cast<TcxMemo *>(mask->placeControl(4, mask->document(), {10, 60}));
     QVERIFY(memo);
-    QCOMPARE(memo->StyleController(), mask->cxStyleController());
-    QCOMPARE(mask->cxStyleController()->BorderStyle(), ebs3D);
+    QCOMPARE(memo->StyleController(), mask->document()->cxStyleController());
+    QCOMPARE(mask->document()->cxStyleController()->BorderStyle(), ebs3D);
     const QRgb sunken = borderPixel(edit);
     QCOMPARE(sunken, edit->palette().color(QPalette::Dark).rgb());
 
     TChangeStyle dlg;
-    dlg.setStyleController(mask->cxStyleController());
+    dlg.setStyleController(mask->document()->cxStyleController());
     dlg.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dlg));
     chooseItem(child<QComboBox>(&dlg, "edBorderStyle"), ebsNone);
@@ -272,7 +272,7 @@ void TestStyleDlg::cancelKeepsTheNewStyleOnTheMask()
     QCOMPARE(dlg.result(), int(QDialog::Rejected));
     QVERIFY(!dlg.isVisible());
 
-    QCOMPARE(mask->cxStyleController()->BorderStyle(), ebsNone);
+    QCOMPARE(mask->document()->cxStyleController()->BorderStyle(), ebsNone);
     const QRgb none = borderPixel(edit);
     QVERIFY(none != sunken);
     QCOMPARE(none, edit->palette().color(QPalette::Base).rgb());
@@ -283,14 +283,14 @@ void TestStyleDlg::cancelKeepsTheNewStyleOnTheMask()
     if (!dir.isEmpty()) {
         dlg.show();
         dlg.grab().save(dir + QStringLiteral("/styledlg.png"));
-        mask->cxStyleController()->setBorderStyle(ebsNone);
+        mask->document()->cxStyleController()->setBorderStyle(ebsNone);
         mask->grab().save(dir + QStringLiteral("/edits_none.png"));
-        mask->cxStyleController()->setBorderStyle(ebs3D);
+        mask->document()->cxStyleController()->setBorderStyle(ebs3D);
         mask->grab().save(dir + QStringLiteral("/edits_3d.png"));
-        mask->cxStyleController()->setBorderStyle(ebsSingle);
-        mask->cxStyleController()->setBorderColor(Colors::clBlue);
-        mask->cxStyleController()->setShadow(true);
-        mask->cxStyleController()->setGradient(true);
+        mask->document()->cxStyleController()->setBorderStyle(ebsSingle);
+        mask->document()->cxStyleController()->setBorderColor(Colors::clBlue);
+        mask->document()->cxStyleController()->setShadow(true);
+        mask->document()->cxStyleController()->setGradient(true);
         mask->grab().save(dir + QStringLiteral("/edits_single_shadow_gradient.png"));
     }
     delete mask;

@@ -55,12 +55,12 @@ void TestDesigning::paletteClicksPlaceNamedControls()
     clickTool(form.get(), "FileNewItem");
     TMaske *mask = form->activeMask();
     QVERIFY(mask);
-    QWidget *surface = mask->designSurface();
+    QWidget *surface = mask->document();
 
     for (int i = 0; i < 3; ++i)
         placeWith(form.get(), "dxBarBtnLabel", surface, QPoint(16, 16 + 24 * i));
-    QVERIFY(Components::findComponent(mask, QStringLiteral("Label3")));
-    QObject *label2 = Components::findComponent(mask, QStringLiteral("Label2"));
+    QVERIFY(Components::findComponent(mask->document(), QStringLiteral("Label3")));
+    QObject *label2 = Components::findComponent(mask->document(), QStringLiteral("Label2"));
     QVERIFY(label2);
     // The arrow is down again and the inspector shows the new label.
     QVERIFY(action(form.get(), "dxBarBtnDefault")->isChecked());
@@ -70,7 +70,7 @@ void TestDesigning::paletteClicksPlaceNamedControls()
     // Delete the second one from the keyboard; the next label takes its name.
     QTest::mouseClick(static_cast<QWidget *>(label2), Qt::LeftButton, {}, QPoint(2, 2));
     QTest::keyClick(surface, Qt::Key_Delete);
-    QVERIFY(!Components::findComponent(mask, QStringLiteral("Label2")));
+    QVERIFY(!Components::findComponent(mask->document(), QStringLiteral("Label2")));
     placeWith(form.get(), "dxBarBtnLabel", surface, QPoint(200, 16));
     QCOMPARE(mask->FormDesigner2()->currentControl()->objectName(), QStringLiteral("Label2"));
 
@@ -92,7 +92,7 @@ void TestDesigning::toolBarsFollowTheSelection()
     auto form = showMainForm();
     clickTool(form.get(), "FileNewItem");
     TMaske *mask = form->activeMask();
-    QWidget *surface = mask->designSurface();
+    QWidget *surface = mask->document();
     TFormDesigner *designer = mask->FormDesigner2();
 
     // With a bevel the font tools are off; with a button they are on.
@@ -150,7 +150,7 @@ void TestDesigning::styleAndSettingsOpenFromTheMenus()
     };
     action(form.get(), "StyleItem")->trigger();
     QCOMPARE(dialogs.dialogTitles, QStringList{QStringLiteral("Stile ändern")});
-    QCOMPARE(mask->cxStyleController()->BorderStyle(), ebsNone);
+    QCOMPARE(mask->document()->cxStyleController()->BorderStyle(), ebsNone);
 
     // The settings reach the mask's designer on its next activation.
     dialogs.dialogAnswers << [](QDialog *dialog) {
@@ -169,16 +169,16 @@ void TestDesigning::pastedEditsShareTheMaskStyle()
     auto form = showMainForm();
     clickTool(form.get(), "FileNewItem");
     TMaske *mask = form->activeMask();
-    QWidget *surface = mask->designSurface();
+    QWidget *surface = mask->document();
     placeWith(form.get(), "dxBarBtnEdit", surface, QPoint(16, 16));
-    QVERIFY(Components::findComponent(mask, QStringLiteral("cxTextEdit1")));
+    QVERIFY(Components::findComponent(mask->document(), QStringLiteral("cxTextEdit1")));
 
     // Copy and paste with the keys; the copy looks like its original.
     QTest::keyClick(surface, Qt::Key_Insert, Qt::ControlModifier);
     QTest::keyClick(surface, Qt::Key_Insert, Qt::ShiftModifier);
-    auto *copy = qobject_cast<TcxTextEdit *>(Components::findComponent(mask, QStringLiteral("cxTextEdit2")));
+    auto *copy = qobject_cast<TcxTextEdit *>(Components::findComponent(mask->document(), QStringLiteral("cxTextEdit2")));
     QVERIFY(copy);
-    QCOMPARE(copy->StyleController(), mask->cxStyleController());
+    QCOMPARE(copy->StyleController(), mask->document()->cxStyleController());
 }
 
 QTEST_MAIN(TestDesigning)

@@ -1,5 +1,6 @@
 // The File menu of the main window: open and save dialogs, the mask header
 // written on save, its backup, and the folders remembered between runs.
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -7,6 +8,8 @@
 #include <memory>
 
 #include "AppPaths.h"
+#include "Containers.h"
+#include "FormDesigner.h"
 #include "IniFile.h"
 #include "TestSupport.h"
 #include "helper_shell.h"
@@ -125,16 +128,30 @@ void TestMainFormFiles::openDialogOpensEverySelectedFile()
     ScriptedDialogs dialogs;
     const QStringList files{path(QStringLiteral("c.dbm")), path(QStringLiteral("a.dbm")),
                             path(QStringLiteral("b.dbm"))};
-    for (const QString &file : files)
-        QVERIFY(writeFileBytes(file, "[Datenbank]\r\nTitel=" + QFileInfo(file).fileName().toLatin1() + "\r\n"));
+    // The second is designed for a screen the resolution list offers, the
+    // third for one it does not.
+    const QByteArray screens[] = {"", "[DatenBank]\r\nHeight=600\r\nWidth=800\r\n",
+                                  "[DatenBank]\r\nHeight=700\r\nWidth=1000\r\n"};
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(writeFileBytes(files.at(i), "[Datenbank]\r\nTitel=" + QFileInfo(files.at(i)).fileName().toLatin1()
+                                                 + "\r\n" + screens[i] + "[Panel_1]\r\nName=P\r\n"));
     dialogs.fileAnswers << files << QStringList();
     auto form = showMainForm();
     clickTool(form.get(), "FileOpenItem");
 
     const QList<QMdiSubWindow *> windows = subWindows(form.get());
     QCOMPARE(windows.size(), 3);
-    for (int i = 0; i < 3; ++i)
-        QCOMPARE(qobject_cast<TMaske *>(windows.at(i))->Path(), files.at(i));
+    for (int i = 0; i < 3; ++i) {
+        auto *mask = qobject_cast<TMaske *>(windows.at(i));
+        QCOMPARE(mask->Path(), files.at(i));
+        // Loaded, unchanged, designable, its controls on the surface.
+        QVERIFY(!mask->Modified());
+        QVERIFY(mask->FormDesigner2()->Active());
+        QCOMPARE(mask->document()->findChild<TPanel *>()->parentWidget(), mask->document());
+    }
+    QCOMPARE(windows.at(1)->size(), QSize(815, 473));
+    // The last one loaded is active: its resolution is not in the list.
+    QCOMPARE(form->resolutionList()->currentIndex(), -1);
     QCOMPARE(tabTexts(form->tabSet()),
              (QStringList{QStringLiteral("c.dbm"), QStringLiteral("a.dbm"), QStringLiteral("b.dbm")}));
     QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(2));
@@ -154,9 +171,9 @@ void TestMainFormFiles::newMaskIsSavedInTheCurrentFolder()
     clickTool(form.get(), "FileNewItem");
     TMaske *mask = activeMask(form.get());
     QVERIFY(mask);
-    mask->setTitel(QStringLiteral("Kundenstamm"));
-    mask->setTabelle(QStringLiteral("KUNDEN"));
-    mask->setTyp(2);
+    mask->document()->setTitel(QStringLiteral("Kundenstamm"));
+    mask->document()->setTabelle(QStringLiteral("KUNDEN"));
+    mask->document()->setTyp(2);
     mask->setModified(true);
 
     clickTool(form.get(), "FileSaveItem");
@@ -174,8 +191,8 @@ void TestMainFormFiles::newMaskIsSavedInTheCurrentFolder()
     QCOMPARE(written.readString(QStringLiteral("Datenbank"), QStringLiteral("Tabelle"), QString()),
              QStringLiteral("KUNDEN"));
     QCOMPARE(written.readInteger(QStringLiteral("Datenbank"), QStringLiteral("Typ"), -1), 2);
-    QCOMPARE(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Height"), -1), mask->ScreenHeight());
-    QCOMPARE(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Width"), -1), mask->ScreenWidth());
+    QCOMPARE(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Height"), -1), mask->document()->ScreenHeight());
+    QCOMPARE(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Width"), -1), mask->document()->ScreenWidth());
     QVERIFY(written.readInteger(QStringLiteral("DatenBank"), QStringLiteral("Pixel"), 0) > 0);
     const QStringList style = written.readSectionValues(QStringLiteral("Style"));
     QCOMPARE(style, (QStringList{QStringLiteral("BorderStyle=4"), QStringLiteral("ButtonStyle=0"),
@@ -204,7 +221,7 @@ void TestMainFormFiles::savingKeepsThePreviousStateAsBackup()
     const QString titles[] = {QStringLiteral("Erster Stand"), QStringLiteral("Zweiter Stand"),
                               QStringLiteral("Dritter Stand")};
     for (const QString &title : titles) {
-        mask->setTitel(title);
+        mask->document()->setTitel(title);
         clickTool(form.get(), "FileSaveItem");
     }
     QCOMPARE(titleIn(file), titles[2]);

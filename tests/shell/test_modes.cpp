@@ -43,7 +43,7 @@ void TestModes::runModeAndBack()
 
     clickTool(form.get(), "FileNewItem");
     TMaske *mask = form->activeMask();
-    QWidget *edit = mask->placeControl(2, mask->designSurface(), QPoint(20, 20));
+    QWidget *edit = mask->placeControl(2, mask->document(), QPoint(20, 20));
     QVERIFY(TControl::from(edit)->isDesigning());
     form->showObjectInspector();
 
@@ -85,7 +85,7 @@ void TestModes::resolutionListSizesTheMask()
     QVERIFY(mask->windowTitle().startsWith(QLatin1String("799 x 434")));
     QCOMPARE(mask->DesignHeight(), 473);
     QCOMPARE(mask->DesignWidth(), 800);
-    QCOMPARE(mask->ScreenHeight(), 600);
+    QCOMPARE(mask->document()->ScreenHeight(), 600);
     QVERIFY(mask->Modified());
     // The scroll ranges follow the main window: its width, its height less 127.
     QCOMPARE(mask->scrollRanges(), QSize(form->width(), form->height() - 127));
@@ -95,7 +95,7 @@ void TestModes::resolutionListSizesTheMask()
     QTest::keyClick(list, Qt::Key_Down);
     QCOMPARE(list->currentText(), QStringLiteral("1152x869"));
     QCOMPARE(mask->size(), QSize(1167, 737));
-    QCOMPARE(mask->ScreenHeight(), 869);
+    QCOMPARE(mask->document()->ScreenHeight(), 869);
     QCOMPARE(mask->DesignHeight(), 737);
 
     // "Normal": the scroll range of the screen the program runs on.
@@ -111,7 +111,7 @@ void TestModes::resolutionListSizesTheMask()
     QVERIFY(second != mask);
     // (The screen it was made on, which the list may not offer.)
     QCOMPARE(list->currentIndex(),
-             list->findText(QStringLiteral("%1x%2").arg(second->ScreenWidth()).arg(second->ScreenHeight())));
+             list->findText(QStringLiteral("%1x%2").arg(second->document()->ScreenWidth()).arg(second->document()->ScreenHeight())));
     form->mdiArea()->setActiveSubWindow(mask);
     QCOMPARE(list->currentText(), QStringLiteral("1152x869"));
 }
