@@ -3,6 +3,7 @@
 #include "CliCommands.h"
 
 #include "AppPaths.h"
+#include "FormDesigner.h"
 #include "IniFile.h"
 #include "MaskDocument.h"
 #include "MaskDump.h"
@@ -121,6 +122,7 @@ int render(const QStringList &args, QTextStream &out, QTextStream &err)
         return 1;
     mask->documentLoaded();
     QCoreApplication::processEvents();
+    mask->FormDesigner2()->setActive(false); // run mode, whatever activated the window
     const QImage image = mask->grab().toImage();
     QImageWriter writer(args.at(1), "png");
     if (!writer.write(image)) {
