@@ -3,6 +3,7 @@
 
 #include "Components.h"
 #include "Control.h"
+#include "ControlKinds.h"
 #include "EditStyle.h"
 #include "FileNames.h"
 #include "IniFile.h"
@@ -21,69 +22,31 @@ const QString kDatenBank = QStringLiteral("DatenBank");
 const QString kStyle = QStringLiteral("Style");
 const QString kSort = QStringLiteral("Sort");
 
-// The numbered kinds in the order they are made: containers before what
-// they contain. The main grid "Browser" comes between the buttons and the
-// numbered grids.
-using KindLoader = void (TMaskReader::*)(const QString &);
-struct Kind
-{
-    const char *prefix;
-    KindLoader load;
-};
-const Kind kKindsBeforeBrowser[] = {
-    {"PageControl_", &TMaskReader::LoadPageControl},
-    {"Page_", &TMaskReader::LoadPage},
-    {"Panel_", &TMaskReader::LoadPanel},
-    {"Label_", &TMaskReader::LoadLabel},
-    {"DBLabel_", &TMaskReader::LoadDBLabel},
-    {"Field_", &TMaskReader::LoadField},
-    {"CField_", &TMaskReader::LoadCField},
-    {"LField_", &TMaskReader::LoadLField},
-    {"Memo_", &TMaskReader::LoadMemo},
-    {"CheckBox_", &TMaskReader::LoadCheckBox},
-    {"Bevel_", &TMaskReader::LoadBevel},
-    {"Image_", &TMaskReader::LoadImage},
-    {"Shape_", &TMaskReader::LoadShape},
-    {"Button_", &TMaskReader::LoadButton},
-};
-const Kind kKindsAfterBrowser[] = {
-    {"DBBrowser_", &TMaskReader::LoadBrowser},
-    {"DBTreeList_", &TMaskReader::LoadTreeList},
-    {"StringGrid_", &TMaskReader::LoadStringGrid},
-    {"DBRadioGroup_", &TMaskReader::LoadRadioGroup},
-};
 // Sections above this number are never loaded.
 constexpr int kMaxSectionNumber = 1000;
 
-void loadKinds(TMaskReader &reader, const TMemIniFile &ini, const Kind *begin, const Kind *end)
+// Every kind in the table's order, containers before what they contain.
+void loadKinds(TMaskReader &reader, const TMemIniFile &ini)
 {
-    for (const Kind *kind = begin; kind != end; ++kind) {
-        const QString prefix = QString::fromLatin1(kind->prefix);
+    for (const TControlKind &kind : ControlKinds::all()) {
+        if (!kind.load)
+            continue;
+        if (kind.singleSection && ini.sectionExists(QLatin1String(kind.singleSection)))
+            (reader.*kind.load)(QString::fromLatin1(kind.singleSection));
+        if (!kind.sectionPrefix)
+            continue;
+        const QString prefix = QString::fromLatin1(kind.sectionPrefix);
         for (int n = 1; n <= kMaxSectionNumber; ++n) {
             const QString section = prefix + QString::number(n);
             if (ini.sectionExists(section))
-                (reader.*kind->load)(section);
+                (reader.*kind.load)(section);
         }
     }
 }
 
-// Component name stems and kind word lengths of the tab order lines, by kind
-// code. They are older control names: of these only "MaskBtn" names what
-// loading makes, so only buttons take their place from "Sort".
-struct SortKind
-{
-    const char *stem;
-    int wordLength;
-};
-const SortKind kSortKinds[] = {
-    {"dxEdit", 4},        // 0-Feld
-    {"dxPickEdit", 5},    // 1-CFeld
-    {"dxMemo", 4},        // 2-Memo
-    {"MaskBtn", 6},       // 3-Button
-    {"dxDBCheckEdit", 8}, // 4-Checkbox
-    {"dxPopUpEdit", 5},   // 5-LFeld
-};
-
+// The "Sort" lines name controls by older component name stems: of these
+// only "MaskBtn" names what loading makes, so only buttons take their place
+// from them.
 void applySortSection(TMaskDocument *mask, const TMemIniFile &ini)
 {
     if (!ini.sectionExists(kSort))
@@ -93,12 +56,11 @@ void applySortSection(TMaskDocument *mask, const TMemIniFile &ini)
         const QString value = ini.readString(kSort, QString::number(i), QStringLiteral("ERROR"));
         if (value == QLatin1String("ERROR") || value.isEmpty())
             continue;
-        const int code = value.at(0).unicode() - '0';
-        if (code < 0 || code > 5)
+        const TControlKind *kind = ControlKinds::bySortCode(value.at(0).unicode() - '0');
+        if (!kind)
             continue;
-        const SortKind &kind = kSortKinds[code];
-        const QString number = value.mid(2 + kind.wordLength);
-        QObject *found = Components::findComponent(mask, QString::fromLatin1(kind.stem) + number);
+        const QString number = value.mid(2 + int(qstrlen(kind->sortWord)));
+        QObject *found = Components::findComponent(mask, QString::fromLatin1(kind->sortStem) + number);
         if (TControl *c = TControl::from(found))
             c->setTabOrder(i);
     }
@@ -194,12 +156,7 @@ bool LoadMask(TMaskDocument &document, const QString &fileName, const QString &d
     const bool surfaceShown = !mask->isHidden();
     mask->hide();
     TMaskReader reader(mask, ini);
-    loadKinds(reader, ini, std::begin(kKindsBeforeBrowser), std::end(kKindsBeforeBrowser));
-    if (ini.sectionExists(QStringLiteral("Browser")))
-        reader.LoadBrowser(QStringLiteral("Browser"));
-    loadKinds(reader, ini, std::begin(kKindsAfterBrowser), std::end(kKindsAfterBrowser));
-    if (ini.readInteger(QStringLiteral("View"), QStringLiteral("Left"), -1) >= 0)
-        reader.LoadView(QStringLiteral("View"), QStringLiteral("Tab"));
+    loadKinds(reader, ini);
 
     applySortSection(mask, ini);
     reader.finish();

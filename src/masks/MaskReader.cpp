@@ -401,8 +401,11 @@ void TMaskReader::LoadRadioGroup(const QString &s)
     group->setColumns(std::max(1, integer(s, QStringLiteral("Columns"), 1)));
 }
 
-void TMaskReader::LoadView(const QString &viewSection, const QString &tabSection)
+void TMaskReader::LoadView(const QString &viewSection)
 {
+    if (integer(viewSection, kLeft, -1) < 0)
+        return;
+    const QString tabSection = QStringLiteral("Tab");
     auto *view = create<TImage>(viewSection, QStringLiteral("View"));
     bounds(view, viewSection, 100, 100);
     view->setHint(str(viewSection, QStringLiteral("Hint")));

@@ -12,7 +12,7 @@ class TMaskDocument;
 class TControl;
 
 // Creates the controls of one mask file in a mask document, one loader per
-// kind of control. Every control stays in its loading state until finish(),
+// kind of control (the kinds table names them). Every control stays in its loading state until finish(),
 // so nothing sizes itself and tab orders are applied all at once.
 class TMaskReader
 {
@@ -37,7 +37,9 @@ public:
     void LoadTreeList(const QString &section);
     void LoadStringGrid(const QString &section);
     void LoadRadioGroup(const QString &section);
-    void LoadView(const QString &viewSection, const QString &tabSection);
+    // The preview image from "View" and its tab strip from "Tab"; nothing
+    // when the preview has no place.
+    void LoadView(const QString &section);
 
     // Ends loading: the mask's component order follows the order of the
     // sections in the file, tab orders are applied, the controls show.

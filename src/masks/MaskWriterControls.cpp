@@ -3,6 +3,7 @@
 #include "MaskWriterControls.h"
 
 #include "CommaText.h"
+#include "ControlKinds.h"
 #include "Containers.h"
 #include "Edits.h"
 #include "Graphics.h"
@@ -11,7 +12,6 @@
 #include "MaskDocument.h"
 #include "MyBtn.h"
 
-#include <cstring>
 
 namespace {
 const QString kSort = QStringLiteral("Sort");
@@ -31,66 +31,26 @@ TMaskWriter::TMaskWriter(const TMaskDocument *mask, TMemIniFile &ini, QStringLis
 void TMaskWriter::write(QObject *component)
 {
     auto *w = qobject_cast<QWidget *>(component);
-    if (!w)
-        return;
     // The exact class decides, not a base class: a label of another class
-    // than these is not saved.
-    const char *cls = component->metaObject()->className();
-    const auto is = [cls](const char *name) { return std::strcmp(cls, name) == 0; };
-    QString n;
-    if (is("TAdvOfficePager"))
-        WritePageControl(w, next("PageControl_"));
-    else if (is("TAdvOfficePage"))
-        WritePage(w, next("Page_"));
-    else if (is("TLabel"))
-        WriteLabel(w, next("Label_"));
-    else if (is("TDBLabel"))
-        WriteDBLabel(w, next("DBLabel_"));
-    else if (is("TcxTextEdit"))
-        WriteField(w, next("Field_", &n), n);
-    else if (is("TcxComboBox"))
-        WriteCField(w, next("CField_", &n), n);
-    else if (is("TcxDBPopupEdit"))
-        WriteLField(w, next("LField_", &n), n);
-    else if (is("TcxMemo"))
-        WriteMemo(w, next("Memo_", &n), n);
-    else if (is("TMaskBtn"))
-        WriteButton(w, next("Button_", &n), n);
-    else if (is("TBevel"))
-        WriteBevel(w, next("Bevel_"));
-    else if (is("TImageAspect"))
-        WriteImage(w, next("Image_"));
-    else if (is("TShape"))
-        WriteShape(w, next("Shape_"));
-    else if (is("TPanel"))
-        WritePanel(w, next("Panel_"));
-    else if (is("TcxDBCheckBox"))
-        WriteCheckBox(w, next("CheckBox_", &n), n);
-    else if (is("TcxDBTreeList"))
-        WriteTreeList(w, next("DBTreeList_"));
-    else if (is("TStringGrid"))
-        WriteStringGrid(w, next("StringGrid_"));
-    else if (is("TDBRadioGroup"))
-        WriteRadioGroup(w, next("DBRadioGroup_"));
-    else if (is("TDBGrid")) {
-        // The grid named "DBGrid1" is the mask's main grid; it is not counted.
-        if (w->objectName() == QLatin1String("DBGrid1"))
-            WriteBrowser(w, QStringLiteral("Browser"), true);
-        else
-            WriteBrowser(w, next("DBBrowser_"), false);
-    } else if (is("TImage"))
-        WriteView(w, QStringLiteral("View"));
-    else if (is("TTabSet"))
-        WriteTab(w, QStringLiteral("Tab"));
+    // than those the file knows is not saved.
+    const TControlKind *kind = w ? ControlKinds::byClass(QLatin1String(component->metaObject()->className())) : nullptr;
+    if (!kind || !kind->write)
+        return;
+    QString number;
+    const QString section = sectionOf(*kind, w, &number);
+    (this->*kind->write)(w, section);
+    if (kind->sortCode >= 0)
+        sortLine(TControl::from(w), *kind, number);
 }
 
-QString TMaskWriter::next(const char *prefix, QString *number)
+QString TMaskWriter::sectionOf(const TControlKind &kind, const QWidget *w, QString *number)
 {
-    const QString p = QString::fromLatin1(prefix);
-    const QString n = QString::number(++m_counters[p]);
-    if (number)
-        *number = n;
-    return p + n;
+    // The grid named "DBGrid1" is the mask's main grid; it is not counted.
+    if (kind.singleSection && (!kind.sectionPrefix || w->objectName() == QLatin1String(kind.singleName)))
+        return QString::fromLatin1(kind.singleSection);
+    const QString prefix = QString::fromLatin1(kind.sectionPrefix);
+    *number = QString::number(++m_counters[prefix]);
+    return prefix + *number;
 }
 
 void TMaskWriter::str(const QString &s, const char *key, const QString &value)
@@ -145,11 +105,12 @@ void TMaskWriter::fontColorAfterSize(const QString &s, const TControl *c)
     str(s, "FStyle", FontStylesToString(f.Style));
 }
 
-void TMaskWriter::sortLine(const TControl *c, const char *kindWord, const QString &number)
+void TMaskWriter::sortLine(const TControl *c, const TControlKind &kind, const QString &number)
 {
     // Tab orders count per parent: a later control with the same order
     // overwrites the line of an earlier one.
-    m_ini.writeString(kSort, QString::number(c->TabOrder()), QString::fromLatin1(kindWord) + number);
+    m_ini.writeString(kSort, QString::number(c->TabOrder()),
+                      QString::number(kind.sortCode) + QLatin1Char('-') + QLatin1String(kind.sortWord) + number);
 }
 
 void TMaskWriter::WritePageControl(QWidget *w, const QString &s)
@@ -200,7 +161,7 @@ void TMaskWriter::WriteDBLabel(QWidget *w, const QString &s)
     boolean(s, "BrowserEdit", label->BrowserEdit());
 }
 
-void TMaskWriter::WriteField(QWidget *w, const QString &s, const QString &n)
+void TMaskWriter::WriteField(QWidget *w, const QString &s)
 {
     auto *edit = as<TcxTextEdit>(w);
     parent(s, w);
@@ -219,10 +180,9 @@ void TMaskWriter::WriteField(QWidget *w, const QString &s, const QString &n)
     integer(s, "TabOrder", edit->TabOrder());
     fontColorAfterSize(s, edit);
     integer(s, "CharCase", edit->CharCase());
-    sortLine(edit, "0-Feld", n);
 }
 
-void TMaskWriter::WriteLField(QWidget *w, const QString &s, const QString &n)
+void TMaskWriter::WriteLField(QWidget *w, const QString &s)
 {
     auto *lookup = as<TcxDBPopupEdit>(w);
     const TFont f = lookup->Font();
@@ -245,10 +205,9 @@ void TMaskWriter::WriteLField(QWidget *w, const QString &s, const QString &n)
     color(s, "FColor", f.Color);
     str(s, "FStyle", FontStylesToString(f.Style));
     integer(s, "CharCase", lookup->CharCase());
-    sortLine(lookup, "5-LFeld", n);
 }
 
-void TMaskWriter::WriteCField(QWidget *w, const QString &s, const QString &n)
+void TMaskWriter::WriteCField(QWidget *w, const QString &s)
 {
     auto *combo = as<TcxComboBox>(w);
     parent(s, w);
@@ -274,10 +233,9 @@ void TMaskWriter::WriteCField(QWidget *w, const QString &s, const QString &n)
     boolean(s, "Pflicht", combo->TabStop());
     boolean(s, "Readonly", combo->ReadOnly());
     fontColorAfterSize(s, combo);
-    sortLine(combo, "1-CFeld", n);
 }
 
-void TMaskWriter::WriteMemo(QWidget *w, const QString &s, const QString &n)
+void TMaskWriter::WriteMemo(QWidget *w, const QString &s)
 {
     auto *memo = as<TcxMemo>(w);
     parent(s, w);
@@ -290,10 +248,9 @@ void TMaskWriter::WriteMemo(QWidget *w, const QString &s, const QString &n)
     boolean(s, "Pflicht", memo->TabStop());
     boolean(s, "Plaintext", memo->Tag() != 0);
     integer(s, "Scrollbars", memo->ScrollBars());
-    sortLine(memo, "2-Memo", n);
 }
 
-void TMaskWriter::WriteCheckBox(QWidget *w, const QString &s, const QString &n)
+void TMaskWriter::WriteCheckBox(QWidget *w, const QString &s)
 {
     auto *check = as<TcxDBCheckBox>(w);
     parent(s, w);
@@ -308,7 +265,6 @@ void TMaskWriter::WriteCheckBox(QWidget *w, const QString &s, const QString &n)
     str(s, "True", check->ValueChecked());
     str(s, "False", check->ValueUnchecked());
     integer(s, "Alignment", check->Alignment());
-    sortLine(check, "4-Checkbox", n);
 }
 
 void TMaskWriter::WriteBevel(QWidget *w, const QString &s)
@@ -353,7 +309,7 @@ void TMaskWriter::WriteShape(QWidget *w, const QString &s)
     color(s, "FPColor", shape->PenColor());
 }
 
-void TMaskWriter::WriteButton(QWidget *w, const QString &s, const QString &n)
+void TMaskWriter::WriteButton(QWidget *w, const QString &s)
 {
     auto *button = as<TMaskBtn>(w);
     const TFont f = button->Font();
@@ -379,11 +335,11 @@ void TMaskWriter::WriteButton(QWidget *w, const QString &s, const QString &n)
     str(s, "Ext_Section", button->SectionExt());
     integer(s, "Margin", button->Margin());
     boolean(s, "RunAs", button->RunAs());
-    sortLine(button, "3-Button", n);
 }
 
-void TMaskWriter::WriteBrowser(QWidget *w, const QString &s, bool mainGrid)
+void TMaskWriter::WriteBrowser(QWidget *w, const QString &s)
 {
+    const bool mainGrid = s == QLatin1String("Browser");
     auto *grid = as<TDBGrid>(w);
     const TFont f = grid->Font();
     const TFont h = grid->TitleFont();

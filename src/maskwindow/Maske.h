@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "ControlKinds.h"
 #include "MaskDocument.h"
 
 class QCloseEvent;
@@ -71,7 +72,7 @@ public:
     // Places a control of the palette code into container at pos (container
     // coordinates), as a click with that tool armed does; returns it (for the
     // preview image the image), or nullptr when nothing is made.
-    QWidget *placeControl(int code, QWidget *container, const QPoint &pos);
+    QWidget *placeControl(TPaletteCode code, QWidget *container, const QPoint &pos);
 
     // Binds the mask's page control handlers to a pager on this mask: the
     // placement does it for a new pager, the mask loader for a loaded one.

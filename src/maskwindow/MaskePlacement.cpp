@@ -3,6 +3,7 @@
 
 #include "Components.h"
 #include "Containers.h"
+#include "ControlKinds.h"
 #include "ControlClasses.h"
 #include "Edits.h"
 #include "FormDesigner.h"
@@ -13,13 +14,6 @@
 #include "MyBtn.h"
 
 namespace {
-// The control class of each palette code; 14 and 15 have none.
-const char *const kPaletteClasses[21] = {
-    nullptr,       "TLabel",       "TcxTextEdit",    "TcxComboBox",  "TcxMemo",   "TcxDBCheckBox", "TDBGrid",
-    "TMaskBtn",    "TBevel",       "TImage",         "TDBLabel",     "TShape",    "TcxDBPopupEdit", "TImageAspect",
-    nullptr,       nullptr,        "TAdvOfficePager", "TPanel",      "TDBRadioGroup", "TcxDBTreeList", "TStringGrid",
-};
-
 bool acceptsControls(QWidget *w)
 {
     const TControl *c = TControl::from(w);
@@ -50,14 +44,14 @@ void TMaske::FormDesigner2Message(TDesignMessage &msg)
             }
         }
     }
-    const int code = m_host ? m_host->ArmedTool() : 0;
-    if (code == 9 && qobject_cast<TImage *>(Components::findComponent(m_document, QStringLiteral("View")))) {
+    const auto code = TPaletteCode(m_host ? m_host->ArmedTool() : 0);
+    if (code == TPaletteCode::Preview && qobject_cast<TImage *>(Components::findComponent(m_document, QStringLiteral("View")))) {
         // One preview per mask: refused, and the designer stays locked.
         if (m_host)
             m_host->placementRefused(this);
         return;
     }
-    if (container && code > 0)
+    if (container && code != TPaletteCode::None)
         placeControl(code, container, msg.hwnd->mapTo(container, msg.pos));
     if (m_host)
         m_host->placementDone(this);
@@ -69,18 +63,21 @@ void TMaske::applyToolFont(QWidget *control)
         m_host->WriteFontStates(control);
 }
 
-QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
+QWidget *TMaske::placeControl(TPaletteCode code, QWidget *container, const QPoint &pos)
 {
-    if (code < 1 || code > 20 || !kPaletteClasses[code] || !container)
+    const TControlKind *kind = ControlKinds::byCode(code);
+    if (!kind || !container)
         return nullptr;
-    const QString className = QString::fromLatin1(kPaletteClasses[code]);
-    if (code == 9 && qobject_cast<TImage *>(Components::findComponent(m_document, QStringLiteral("View"))))
+    const QString className = QString::fromLatin1(kind->className);
+    const bool preview = code == TPaletteCode::Preview;
+    // One preview per mask, under its fixed name.
+    if (preview && qobject_cast<TImage *>(Components::findComponent(m_document, QStringLiteral("View"))))
         return nullptr;
 
     QWidget *w = ControlClasses::create(className);
     TControl *c = TControl::from(w);
     Components::setOwner(w, m_document);
-    if (code == 9)
+    if (preview)
         w->setObjectName(QStringLiteral("View"));
     else
         AutoName(w, m_document);
@@ -89,27 +86,34 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
     c->setTop(pos.y());
     w->show();
 
+    const unsigned place = kind->place;
+    const auto publish = [&](const char *property, const QVariant &value) {
+        if (const TPropInfo *info = c->classInfo().property(QLatin1String(property)))
+            info->write(w, value);
+    };
     // The class name in the hint is a placeholder the real attribute replaces.
-    const auto placeholderHint = [&] { c->setHint(className); };
-    bool toolFont = true;
-    TFont last;
-    switch (code) {
-    case 1:
-        placeholderHint();
+    if (place & pfClassHint)
+        c->setHint(className);
+    if (place & pfTransparent)
         c->setTransparent(true);
-        break;
-    case 2: {
-        auto *edit = static_cast<TcxTextEdit *>(w);
-        edit->setStyleController(m_document->cxStyleController());
+    if (auto *styled = dynamic_cast<TEditStyled *>(w); styled && (place & pfEditStyle))
+        styled->setStyleController(m_document->cxStyleController());
+    if (place & pfEditable)
+        publish("ReadOnly", false);
+    if (place & pfNoTabStop)
         c->setTabStop(false);
-        edit->setReadOnly(false);
-        break;
-    }
-    case 3: {
-        auto *combo = static_cast<TcxComboBox *>(w);
-        combo->setStyleController(m_document->cxStyleController());
+    if (place & pfClassText)
+        publish("Text", className);
+    if (place & pfShowHint)
+        c->setShowHint(true);
+    TFont last;
+    // Panels and radio groups take the last tool bar font directly.
+    if ((place & pfLastFont) && m_host && m_host->lastFont(last))
+        c->setFont(last);
+
+    switch (code) {
+    case TPaletteCode::Combo:
         c->setParentFont(false);
-        combo->setReadOnly(false);
         // The mask's own font, not the combo box's, takes the last tool bar
         // font; kept so on purpose.
         if (m_host && m_host->lastFont(last)) {
@@ -119,42 +123,21 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
             applyFontStyles(f, last.Style);
             setFont(f);
         }
-        placeholderHint();
-        c->setTabStop(false);
-        combo->setText(className);
         break;
-    }
-    case 4:
-        static_cast<TcxMemo *>(w)->setStyleController(m_document->cxStyleController());
-        placeholderHint();
-        c->setTabStop(false);
-        break;
-    case 5:
-        static_cast<TcxDBCheckBox *>(w)->setStyleController(m_document->cxStyleController());
-        placeholderHint();
-        c->setShowHint(true);
-        break;
-    case 6: {
+    case TPaletteCode::Grid: {
         auto *grid = static_cast<TDBGrid *>(w);
-        placeholderHint();
         grid->addColumn(QStringLiteral("Spaltentitel"), 120);
         grid->setTitleFont(c->Font());
         break;
     }
-    case 7: {
+    case TPaletteCode::Button: {
         auto *button = static_cast<TMaskBtn *>(w);
         button->setCaption(QStringLiteral("MaskBtn"));
         button->setRegelFarbe(QStringLiteral("clRed"));
-        placeholderHint(); // the program to run
         break;
     }
-    case 8:
-        placeholderHint();
-        toolFont = false;
-        break;
-    case 9: {
+    case TPaletteCode::Preview:
         c->setBounds(pos.x(), pos.y(), 250, 250);
-        toolFont = false;
         if (!Components::findComponent(m_document, QStringLiteral("Tab"))) {
             auto *tabs = new TTabSet(container);
             Components::setOwner(tabs, m_document);
@@ -166,51 +149,20 @@ QWidget *TMaske::placeControl(int code, QWidget *container, const QPoint &pos)
             applyToolFont(tabs);
         }
         break;
-    }
-    case 10:
+    case TPaletteCode::DBLabel:
         c->setHint(QStringLiteral("1")); // the field length
-        c->setTransparent(true);
         break;
-    case 11:
-        toolFont = false;
-        break;
-    case 12: {
-        auto *lookup = static_cast<TcxDBPopupEdit *>(w);
-        lookup->setStyleController(m_document->cxStyleController());
-        lookup->setReadOnly(false);
-        c->setTabStop(false);
-        placeholderHint();
-        lookup->setText(className);
-        break;
-    }
-    case 13:
-        placeholderHint();
-        toolFont = false;
-        break;
-    case 16: {
+    case TPaletteCode::PageControl: {
         auto *pager = static_cast<TAdvOfficePager *>(w);
-        placeholderHint();
         pager->addPage(m_document->NewOPage(QStringLiteral("Seite1")));
         pager->addPage(m_document->NewOPage(QStringLiteral("Seite2")));
         wirePager(pager);
-        toolFont = false;
         break;
     }
-    case 17:
-    case 18:
-        // Panels and radio groups take the last tool bar font directly.
-        if (m_host && m_host->lastFont(last))
-            c->setFont(last);
-        toolFont = false;
-        break;
-    case 19:
-    case 20:
-        placeholderHint();
-        break;
     default:
         break;
     }
-    if (toolFont)
+    if (place & pfToolFont)
         applyToolFont(w);
     m_formDesigner2->ClearControls();
     m_formDesigner2->AddControl(w);

@@ -2,6 +2,7 @@
 // at the page of a control class without a control of that class selected.
 #include "ObjectInspector.h"
 
+#include "ControlKinds.h"
 #include "Maske.h"
 
 #include <QButtonGroup>
@@ -12,21 +13,6 @@
 #include <QToolButton>
 
 namespace {
-
-// The short button captions, in page order.
-const struct
-{
-    const char *page;
-    const char *caption;
-} kPaletteEntries[] = {
-    {"Default", "Default"},       {"TLabel", "Label"},          {"TDBLabel", "DBLabel"},
-    {"TcxTextEdit", "Edit"},      {"TcxComboBox", "Combo"},     {"TcxMemo", "Memo"},
-    {"TcxDBCheckBox", "Checkbox"}, {"TMaskBtn", "Button"},      {"TBevel", "Bevel"},
-    {"TDBGrid", "Grid"},          {"TShape", "Shape"},          {"TcxDBPopupEdit", "LookUp"},
-    {"TImageAspect", "Image"},    {"TAdvOfficePager", "PageControl"}, {"TAdvOfficePage", "Page"},
-    {"TDBRadioGroup", "RadioGroup"}, {"TPanel", "Panel"},       {"TcxDBTreeList", "TreeList"},
-    {"TStringGrid", "StringGrid"},
-};
 
 // Lays the buttons out in rows as wide as the window, so the palette stays
 // a few lines high in the narrow tool window and one line in a wide one.
@@ -118,12 +104,13 @@ void TObjInsp::buildPalette()
     m_paletteGroup = new QButtonGroup(m_palette);
     m_paletteGroup->setExclusive(true);
     int number = 1;
-    for (const auto &entry : kPaletteEntries) {
-        const QString page = QLatin1String(entry.page);
-        Q_ASSERT(m_pageIndex.contains(page));
+    for (const QString &page : pageCaptions()) {
+        // The short captions come from the kinds table; the first page is
+        // the current control's own.
+        const TControlKind *kind = ControlKinds::byClass(page);
         auto *button = new QToolButton(m_palette);
         button->setObjectName(QStringLiteral("BarButton%1").arg(number++));
-        button->setText(QLatin1String(entry.caption));
+        button->setText(kind ? QLatin1String(kind->inspectorCaption) : page);
         button->setToolTip(page == QLatin1String("Default") ? QStringLiteral("Seite des ausgewählten Elements")
                                                              : QStringLiteral("Seite %1 ansehen").arg(page));
         button->setProperty("pageCaption", page);

@@ -2,6 +2,7 @@
 #include "MainForm.h"
 
 #include "Colors.h"
+#include "ControlKinds.h"
 #include "MaskResolutions.h"
 #include "PaletteIcons.h"
 
@@ -17,39 +18,9 @@
 #include <QSpinBox>
 #include <QToolBar>
 #include <QToolButton>
+#include <algorithm>
 
 namespace {
-
-struct PaletteEntry
-{
-    const char *name;
-    const char *caption;
-    int tag;
-    const char *toolTip;
-};
-
-// The control palette. The tag is the control kind the designer places; the
-// numbers are those of the mask files, hence the gap after 13.
-const PaletteEntry kPalette[] = {
-    {"dxBarBtnLabel", "Beschriftung", 1, nullptr},
-    {"dxBarBtnEdit", "Eingabefeld", 2, nullptr},
-    {"dxBarBtnCombo", "Auswahlfeld", 3, nullptr},
-    {"dxBarBtnMemo", "Memofeld", 4, nullptr},
-    {"dxBarBtnCheckbox", "Checkfeld", 5, nullptr},
-    {"dxBarBtnDBGrid", "Browser", 6, nullptr},
-    {"dxBarBtnButton", "Schalter", 7, nullptr},
-    {"dxBarBtnBevel", "Umrahmung", 8, nullptr},
-    {"dxBarBtnPreview", "Vorschau", 9, nullptr},
-    {"dxBarBtnDBLabel", "Beschriftungsfeld", 10, nullptr},
-    {"dxBarBtnShape", "Formen", 11, nullptr},
-    {"dxBarBtnDBLockup", "LookUp", 12, nullptr},
-    {"dxBarBtnImage", "Image", 13, "Bild einfügen"},
-    {"dxBarBtnPageControl", "PageControl", 16, nullptr},
-    {"dxBarPanel", "Panel", 17, nullptr},
-    {"dxBarRadioButton", "RadioButton", 18, nullptr},
-    {"dxBarTreelist", "DBTreelist", 19, nullptr},
-    {"dxBarStringgrid", "Stringgrid", 20, nullptr},
-};
 
 QIcon colorSwatch(const QColor &color)
 {
@@ -223,8 +194,9 @@ void TMainForm::createElementsBar()
     m_paletteGroup->setObjectName(QStringLiteral("ElementsGroup"));
     m_paletteGroup->setExclusive(true);
 
-    auto addEntry = [this, bar](const char *name, const QString &caption, int tag, const QString &toolTip) {
-        auto *item = new QAction(PaletteIcons::controlIcon(tag), caption, m_paletteGroup);
+    auto addEntry = [this, bar](const char *name, const QString &caption, TPaletteCode code, const QString &toolTip) {
+        const int tag = int(code);
+        auto *item = new QAction(PaletteIcons::controlIcon(code), caption, m_paletteGroup);
         item->setObjectName(QLatin1String(name));
         item->setCheckable(true);
         item->setData(tag);
@@ -239,12 +211,19 @@ void TMainForm::createElementsBar()
 
     // The arrow is the state "nothing to place": it is part of the group so
     // choosing it releases the control button that was down.
-    QAction *arrow = addEntry("dxBarBtnDefault", QStringLiteral("Auswahl"), 0, QStringLiteral("Auswählen"));
+    QAction *arrow = addEntry("dxBarBtnDefault", QStringLiteral("Auswahl"), TPaletteCode::None, QStringLiteral("Auswählen"));
     arrow->setChecked(true);
     bar->addSeparator();
-    for (const PaletteEntry &entry : kPalette)
-        addEntry(entry.name, QString::fromUtf8(entry.caption), entry.tag,
-                 entry.toolTip ? QString::fromUtf8(entry.toolTip) : QString());
+    // The palette lists the kinds by their codes, the numbers of the mask
+    // files, hence the gap after 13.
+    QList<const TControlKind *> kinds;
+    for (const TControlKind &kind : ControlKinds::all())
+        if (kind.code != TPaletteCode::None)
+            kinds << &kind;
+    std::sort(kinds.begin(), kinds.end(), [](auto a, auto b) { return int(a->code) < int(b->code); });
+    for (const TControlKind *kind : kinds)
+        addEntry(kind->paletteName, QString::fromUtf8(kind->paletteCaption), kind->code,
+                 kind->paletteHint ? QString::fromUtf8(kind->paletteHint) : QString());
 }
 
 void TMainForm::createModifyBar()

@@ -275,30 +275,30 @@ void drawStringGrid(QPainter &p)
 
 namespace PaletteIcons {
 
-QIcon controlIcon(int tag)
+QIcon controlIcon(TPaletteCode code)
 {
-    switch (tag) {
-    case 0: return makeIcon(drawArrow);
-    case 1: return makeIcon(drawLabel);
-    case 2: return makeIcon(drawEdit);
-    case 3: return makeIcon(drawCombo);
-    case 4: return makeIcon(drawMemo);
-    case 5: return makeIcon(drawCheckbox);
-    case 6: return makeIcon(drawDBGrid);
-    case 7: return makeIcon(drawButton);
-    case 8: return makeIcon(drawBevel);
-    case 9: return makeIcon(drawPreview);
-    case 10: return makeIcon(drawDBLabel);
-    case 11: return makeIcon(drawShape);
-    case 12: return makeIcon(drawLookup);
-    case 13: return makeIcon(drawImage);
-    case 16: return makeIcon(drawPageControl);
-    case 17: return makeIcon(drawPanel);
-    case 18: return makeIcon(drawRadioButton);
-    case 19: return makeIcon(drawTreeList);
-    case 20: return makeIcon(drawStringGrid);
-    default: return QIcon();
+    switch (code) {
+    case TPaletteCode::None: return makeIcon(drawArrow);
+    case TPaletteCode::Label: return makeIcon(drawLabel);
+    case TPaletteCode::Edit: return makeIcon(drawEdit);
+    case TPaletteCode::Combo: return makeIcon(drawCombo);
+    case TPaletteCode::Memo: return makeIcon(drawMemo);
+    case TPaletteCode::CheckBox: return makeIcon(drawCheckbox);
+    case TPaletteCode::Grid: return makeIcon(drawDBGrid);
+    case TPaletteCode::Button: return makeIcon(drawButton);
+    case TPaletteCode::Bevel: return makeIcon(drawBevel);
+    case TPaletteCode::Preview: return makeIcon(drawPreview);
+    case TPaletteCode::DBLabel: return makeIcon(drawDBLabel);
+    case TPaletteCode::Shape: return makeIcon(drawShape);
+    case TPaletteCode::Lookup: return makeIcon(drawLookup);
+    case TPaletteCode::Image: return makeIcon(drawImage);
+    case TPaletteCode::PageControl: return makeIcon(drawPageControl);
+    case TPaletteCode::Panel: return makeIcon(drawPanel);
+    case TPaletteCode::RadioGroup: return makeIcon(drawRadioButton);
+    case TPaletteCode::TreeList: return makeIcon(drawTreeList);
+    case TPaletteCode::StringGrid: return makeIcon(drawStringGrid);
     }
+    return QIcon();
 }
 
 } // namespace PaletteIcons

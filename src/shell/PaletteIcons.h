@@ -2,13 +2,15 @@
 
 #include <QIcon>
 
+#include "ControlKinds.h"
+
 // The pictograms of the tool bars and menus, drawn in code on a 24x24 grid so
 // they stay sharp at every size and need no image files.
 namespace PaletteIcons {
 
-// The control palette: one pictogram per control kind (the palette's tag);
-// 0 is the selection arrow.
-QIcon controlIcon(int tag);
+// The control palette: one pictogram per control kind; None is the
+// selection arrow.
+QIcon controlIcon(TPaletteCode code);
 
 enum class Command {
     New, Open, Save, SaveAs, Close, Exit,

@@ -150,28 +150,23 @@ void TestMaske::placementNamesParentsAndSelects()
 void TestMaske::everyPaletteCodePlacesItsKind()
 {
     MaskFixture f;
-    const QList<QPair<int, QString>> kinds = {
-        {1, "TLabel"},       {2, "TcxTextEdit"},  {3, "TcxComboBox"},     {4, "TcxMemo"},
-        {5, "TcxDBCheckBox"}, {6, "TDBGrid"},     {7, "TMaskBtn"},        {8, "TBevel"},
-        {10, "TDBLabel"},    {11, "TShape"},      {12, "TcxDBPopupEdit"}, {13, "TImageAspect"},
-        {16, "TAdvOfficePager"}, {17, "TPanel"},  {18, "TDBRadioGroup"},  {19, "TcxDBTreeList"},
-        {20, "TStringGrid"}};
     int y = 4;
-    for (const auto &kind : kinds) {
+    for (const TControlKind &kind : ControlKinds::all()) {
+        if (kind.code == TPaletteCode::None || kind.code == TPaletteCode::Preview)
+            continue;
         f.host.fonted.clear();
-        QWidget *w = f.mask->placeControl(kind.first, f.surface(), QPoint(4, y));
-        QVERIFY2(w, qPrintable(kind.second));
-        QCOMPARE(QString::fromLatin1(w->metaObject()->className()), kind.second);
+        QWidget *w = f.mask->placeControl(kind.code, f.surface(), QPoint(4, y));
+        QVERIFY2(w, kind.className);
+        QCOMPARE(w->metaObject()->className(), kind.className);
         QCOMPARE(w->pos(), QPoint(4, y));
         QCOMPARE(Components::owner(w), static_cast<QObject *>(f.mask->document()));
         QCOMPARE(f.designer()->currentControl(), w);
         // Bevels, shapes, pictures, pagers, panels and radio groups keep their own font.
-        const bool noToolFont = QList<int>{8, 11, 13, 16, 17, 18}.contains(kind.first);
-        QCOMPARE(f.host.fonted.contains(w), !noToolFont);
+        QCOMPARE(f.host.fonted.contains(w), bool(kind.place & pfToolFont));
         y += 30;
     }
-    QVERIFY(!f.mask->placeControl(14, f.surface(), QPoint(0, 0)));
-    QVERIFY(!f.mask->placeControl(15, f.surface(), QPoint(0, 0)));
+    QVERIFY(!f.mask->placeControl(TPaletteCode(14), f.surface(), QPoint(0, 0)));
+    QVERIFY(!f.mask->placeControl(TPaletteCode(15), f.surface(), QPoint(0, 0)));
 
     auto *button = f.surface()->findChild<TMaskBtn *>();
     QCOMPARE(button->Caption(), QStringLiteral("MaskBtn"));

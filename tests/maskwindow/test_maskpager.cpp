@@ -21,7 +21,7 @@ struct PagerFixture
     {
         mask->resize(700, 500);
         mask->show();
-        pager = qobject_cast<TAdvOfficePager *>(mask->placeControl(16, mask->document(), QPoint(20, 30)));
+        pager = qobject_cast<TAdvOfficePager *>(mask->placeControl(TPaletteCode::PageControl, mask->document(), QPoint(20, 30)));
         mask->FormDesigner2()->setActive(false);
         mask->setModified(false);
     }
@@ -152,7 +152,7 @@ void TestMaskPager::onlyWiredPagersOutsideTheDesignerDrag()
     // a pager placed while the engine watches.
     f.mask->FormDesigner2()->setActive(true);
     auto *designed =
-        qobject_cast<TAdvOfficePager *>(f.mask->placeControl(16, f.mask->document(), QPoint(20, 250)));
+        qobject_cast<TAdvOfficePager *>(f.mask->placeControl(TPaletteCode::PageControl, f.mask->document(), QPoint(20, 250)));
     for (TAdvOfficePager *p : {f.pager, designed}) {
         const QPoint free(p->width() - 20, 6);
         QTest::mousePress(p, Qt::LeftButton, {}, free);

@@ -251,10 +251,10 @@ void TestStyleDlg::cancelKeepsTheNewStyleOnTheMask()
     mask->resize(500, 400);
     mask->show();
     QVERIFY(QTest::qWaitForWindowExposed(mask));
-    auto *edit = qobject_cast<TcxTextEdit *>(mask->placeControl(2, mask->document(), {10, 10}));
+    auto *edit = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, mask->document(), {10, 10}));
     QVERIFY(edit);
     QCOMPARE(edit->StyleController(), mask->document()->cxStyleController());
-    auto *memo = qobject_cast<TcxMemo *>(mask->placeControl(4, mask->document(), {10, 60}));
+    auto *memo = qobject_cast<TcxMemo *>(mask->placeControl(TPaletteCode::Memo, mask->document(), {10, 60}));
     QVERIFY(memo);
     QCOMPARE(memo->StyleController(), mask->document()->cxStyleController());
     QCOMPARE(mask->document()->cxStyleController()->BorderStyle(), ebs3D);

@@ -43,7 +43,7 @@ void TestModes::runModeAndBack()
 
     clickTool(form.get(), "FileNewItem");
     TMaske *mask = form->activeMask();
-    QWidget *edit = mask->placeControl(2, mask->document(), QPoint(20, 20));
+    QWidget *edit = mask->placeControl(TPaletteCode::Edit, mask->document(), QPoint(20, 20));
     QVERIFY(TControl::from(edit)->isDesigning());
     form->showObjectInspector();
 
