@@ -483,7 +483,7 @@ QWidget *TCustomFormDesigner::FindNextControl(bool goForward) const
     // graphic controls follow the windowed ones of their parent.
     QList<QWidget *> order;
     std::function<void(QWidget *)> walk = [&](QWidget *container) {
-        QList<QWidget *> kids = Containers::tabList(container);
+        QList<QWidget *> kids = ControlLayout::tabList(container);
         for (QObject *o : container->children())
             if (o->isWidgetType() && !kids.contains(static_cast<QWidget *>(o)))
                 kids << static_cast<QWidget *>(o);

@@ -291,7 +291,7 @@ bool TCustomFormDesigner::TabOrderDialog()
         container = m_attached;
 
     QList<QPair<QString, QWidget *>> entries;
-    for (QWidget *w : Containers::tabList(container)) {
+    for (QWidget *w : ControlLayout::tabList(container)) {
         if (!w || qobject_cast<TGrabHandle *>(w) || qobject_cast<TComponentContainer *>(w)
             || w->parentWidget() != container)
             continue;

@@ -1,14 +1,14 @@
 #include "ControlKinds.h"
 
-#include "MaskReader.h"
-#include "MaskWriterControls.h"
+#include "ControlReader.h"
+#include "ControlWriter.h"
 
 #include <QHash>
 
 namespace {
 
-using R = TMaskReader;
-using W = TMaskWriter;
+using R = TControlReader;
+using W = TControlWriter;
 using P = TPaletteCode;
 
 constexpr unsigned kEdit = pfEditStyle | pfToolFont;

@@ -4,8 +4,8 @@
 #include <QString>
 
 class QWidget;
-class TMaskReader;
-class TMaskWriter;
+class TControlReader;
+class TControlWriter;
 
 // The palette codes of the control kinds: the palette buttons' tags and the
 // placement switch of the mask window share them. 14 and 15 are unused.
@@ -60,8 +60,8 @@ struct TControlKind
     int sortCode;                 // kind code of the "Sort" lines; -1: none
     const char *sortWord;         // "Feld" in "0-Feld3"
     const char *sortStem;         // the old component name stem the loader looks up, "dxEdit"
-    void (TMaskReader::*load)(const QString &section); // nullptr: loaded with another kind
-    void (TMaskWriter::*write)(QWidget *control, const QString &section);
+    void (TControlReader::*load)(const QString &section); // nullptr: loaded with another kind
+    void (TControlWriter::*write)(QWidget *control, const QString &section);
     const char *inspectorCaption; // the inspector palette's button for the kind's page
     unsigned place;               // TPlaceFlag
 };

@@ -8,7 +8,7 @@
 #include "FileNames.h"
 #include "IniFile.h"
 #include "MaskDocument.h"
-#include "MaskReader.h"
+#include "ControlReader.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -26,7 +26,7 @@ const QString kSort = QStringLiteral("Sort");
 constexpr int kMaxSectionNumber = 1000;
 
 // Every kind in the table's order, containers before what they contain.
-void loadKinds(TMaskReader &reader, const TMemIniFile &ini)
+void loadKinds(TControlReader &reader, const TMemIniFile &ini)
 {
     for (const TControlKind &kind : ControlKinds::all()) {
         if (!kind.load)
@@ -155,7 +155,7 @@ bool LoadMask(TMaskDocument &document, const QString &fileName, const QString &d
     // after every control.
     const bool surfaceShown = !mask->isHidden();
     mask->hide();
-    TMaskReader reader(mask, ini);
+    TControlReader reader(mask, ini);
     loadKinds(reader, ini);
 
     applySortSection(mask, ini);

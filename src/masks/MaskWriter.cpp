@@ -6,7 +6,7 @@
 #include "FileNames.h"
 #include "IniFile.h"
 #include "IniFileAccess.h"
-#include "MaskWriterControls.h"
+#include "ControlWriter.h"
 #include "MaskDocument.h"
 #include "TextCodec.h"
 
@@ -75,7 +75,7 @@ QByteArray MaskFileBytes(const TMaskDocument &document)
     TMemIniFile ini;
     writeHeader(&document, ini);
     QStringList pickLists;
-    TMaskWriter writer(&document, ini, pickLists);
+    TControlWriter writer(&document, ini, pickLists);
     for (QObject *component : Components::components(&document))
         writer.write(component);
     if (pickLists.isEmpty())

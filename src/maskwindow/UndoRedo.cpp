@@ -70,10 +70,10 @@ void TUndoStream::loadForm(TCustomFormDesigner *designer, int index)
     seek(m_positions.at(index) + one.pos());
 }
 
-bool TUndoStream::Undo(TCustomFormDesigner *designer)
+bool TUndoStream::stepBack(const std::function<void(int)> &load)
 {
     if (m_current >= 0) {
-        loadForm(designer, m_current);
+        load(m_current);
         --m_current;
         return true;
     }
@@ -81,16 +81,26 @@ bool TUndoStream::Undo(TCustomFormDesigner *designer)
     return false;
 }
 
-bool TUndoStream::Redo(TCustomFormDesigner *designer)
+bool TUndoStream::stepForward(const std::function<void(int)> &load)
 {
     ++m_current;
     const int last = int(m_positions.size()) - 1;
     if (m_current <= last) {
-        loadForm(designer, m_current);
+        load(m_current);
         return true;
     }
     m_current = last;
     return false;
+}
+
+bool TUndoStream::Undo(TCustomFormDesigner *designer)
+{
+    return stepBack([&](int index) { loadForm(designer, index); });
+}
+
+bool TUndoStream::Redo(TCustomFormDesigner *designer)
+{
+    return stepForward([&](int index) { loadForm(designer, index); });
 }
 
 // ---- component-by-component snapshots ----
@@ -165,25 +175,12 @@ void TUndoStream::loadComponents(TCustomFormDesigner *designer, int index, int e
 
 bool TUndoStream::UndoComponents(TCustomFormDesigner *designer)
 {
-    if (m_current >= 0) {
-        loadComponents(designer, m_current, -1);
-        --m_current;
-        return true;
-    }
-    m_current = 0;
-    return false;
+    return stepBack([&](int index) { loadComponents(designer, index, -1); });
 }
 
 bool TUndoStream::RedoComponents(TCustomFormDesigner *designer)
 {
-    ++m_current;
-    const int last = int(m_positions.size()) - 1;
-    if (m_current <= last) {
-        loadComponents(designer, m_current, 0);
-        return true;
-    }
-    m_current = last;
-    return false;
+    return stepForward([&](int index) { loadComponents(designer, index, 0); });
 }
 
 void SaveUndo(TCustomFormDesigner *designer)

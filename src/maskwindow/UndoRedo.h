@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QList>
+#include <functional>
 
 class TCustomFormDesigner;
 
@@ -45,6 +46,9 @@ private:
     // Nothing was ever saved: there is no design to go back to.
     bool neverSaved() const { return m_positions.size() <= 1; }
     void loadForm(TCustomFormDesigner *designer, int index);
+    // One step back or forward through the snapshots; load reads the one at an index.
+    bool stepBack(const std::function<void(int)> &load);
+    bool stepForward(const std::function<void(int)> &load);
     void loadComponents(TCustomFormDesigner *designer, int index, int extra);
 
     int m_current = 0;

@@ -10,7 +10,7 @@
 #include <QSpinBox>
 #include <QToolButton>
 
-#include "AlignDlg.h"
+#include "FormAlignment.h"
 #include "Containers.h"
 #include "Control.h"
 #include "Edits.h"

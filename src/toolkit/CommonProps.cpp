@@ -11,7 +11,7 @@ TPropInfo Width() { return prop("Width", &TControl::Width, &TControl::setWidth);
 TPropInfo Height() { return prop("Height", &TControl::Height, &TControl::setHeight); }
 TPropInfo Align()
 {
-    return prop("Align", &TControl::Align, &TControl::setAlign, EnumNames::Align(), QVariant(int(alNone)));
+    return prop("Align", &TControl::Align, &TControl::setAlign, enumNames<TAlign>(), QVariant(int(alNone)));
 }
 TPropInfo Color() { return prop("Color", &TControl::Color, &TControl::setColor); }
 TPropInfo ParentColor() { return prop("ParentColor", &TControl::ParentColor, &TControl::setParentColor); }
@@ -70,25 +70,4 @@ TPropInfo Enabled()
 }
 } // namespace CommonProps
 
-namespace EnumNames {
-#define FEROLITH_ENUM_NAMES(fn, ...)                                                             \
-    const QStringList &fn()                                                                      \
-    {                                                                                            \
-        static const QStringList names = {__VA_ARGS__};                                          \
-        return names;                                                                            \
-    }
-FEROLITH_ENUM_NAMES(Align, "alNone", "alTop", "alBottom", "alLeft", "alRight", "alClient", "alCustom")
-FEROLITH_ENUM_NAMES(Alignment, "taLeftJustify", "taRightJustify", "taCenter")
-FEROLITH_ENUM_NAMES(TextLayout, "tlTop", "tlCenter", "tlBottom")
-FEROLITH_ENUM_NAMES(BevelShape, "bsBox", "bsFrame", "bsTopLine", "bsBottomLine", "bsLeftLine", "bsRightLine",
-                    "bsSpacer")
-FEROLITH_ENUM_NAMES(BevelStyle, "bsLowered", "bsRaised")
-FEROLITH_ENUM_NAMES(ShapeType, "stRectangle", "stSquare", "stRoundRect", "stRoundSquare", "stEllipse", "stCircle")
-FEROLITH_ENUM_NAMES(PanelBevel, "bvNone", "bvLowered", "bvRaised", "bvSpace")
-FEROLITH_ENUM_NAMES(BorderStyle, "bsNone", "bsSingle")
-FEROLITH_ENUM_NAMES(ScrollStyle, "ssNone", "ssHorizontal", "ssVertical", "ssBoth")
-FEROLITH_ENUM_NAMES(EditCharCase, "ecNormal", "ecUpperCase", "ecLowerCase")
-FEROLITH_ENUM_NAMES(ButtonLayout, "blGlyphLeft", "blGlyphRight", "blGlyphTop", "blGlyphBottom")
-FEROLITH_ENUM_NAMES(TabPosition, "tpTop", "tpBottom", "tpLeft", "tpRight")
-#undef FEROLITH_ENUM_NAMES
-} // namespace EnumNames
+

@@ -25,18 +25,3 @@ TPropInfo Visible();
 TPropInfo Enabled();
 } // namespace CommonProps
 
-// The identifiers of each enumeration, in ordinal order.
-namespace EnumNames {
-const QStringList &Align();
-const QStringList &Alignment();
-const QStringList &TextLayout();
-const QStringList &BevelShape();
-const QStringList &BevelStyle();
-const QStringList &ShapeType();
-const QStringList &PanelBevel();
-const QStringList &BorderStyle();
-const QStringList &ScrollStyle();
-const QStringList &EditCharCase();
-const QStringList &ButtonLayout();
-const QStringList &TabPosition();
-} // namespace EnumNames

@@ -27,14 +27,14 @@ const TClassInfo &TPanel::staticClassInfo()
         QStringLiteral("TPanel"),
         {
             P::Left(), P::Top(), P::Width(), P::Height(), P::Align(),
-            prop("Alignment", &TPanel::Alignment, &TPanel::setAlignment, EnumNames::Alignment(),
+            prop("Alignment", &TPanel::Alignment, &TPanel::setAlignment, enumNames<TAlignment>(),
                  QVariant(int(taCenter))),
-            prop("BevelInner", &TPanel::BevelInner, &TPanel::setBevelInner, EnumNames::PanelBevel(),
+            prop("BevelInner", &TPanel::BevelInner, &TPanel::setBevelInner, enumNames<TPanelBevel>(),
                  QVariant(int(bvNone))),
-            prop("BevelOuter", &TPanel::BevelOuter, &TPanel::setBevelOuter, EnumNames::PanelBevel(),
+            prop("BevelOuter", &TPanel::BevelOuter, &TPanel::setBevelOuter, enumNames<TPanelBevel>(),
                  QVariant(int(bvRaised))),
             prop("BevelWidth", &TPanel::BevelWidth, &TPanel::setBevelWidth, {}, QVariant(1)),
-            prop("BorderStyle", &TPanel::BorderStyle, &TPanel::setBorderStyle, EnumNames::BorderStyle(),
+            prop("BorderStyle", &TPanel::BorderStyle, &TPanel::setBorderStyle, enumNames<TBorderStyle>(),
                  QVariant(int(bsNone))),
             prop("BorderWidth", &TPanel::BorderWidth, &TPanel::setBorderWidth, {}, QVariant(0)),
             prop("Caption", &TPanel::Caption, &TPanel::setCaption),
@@ -53,7 +53,7 @@ const TClassInfo &TPanel::staticClassInfo()
 void TPanel::changed()
 {
     update();
-    Containers::alignControls(this);
+    ControlLayout::alignControls(this);
 }
 
 void TPanel::setCaption(const QString &caption)

@@ -94,7 +94,7 @@ public:
             case QEvent::Resize:
             case QEvent::ChildRemoved:
             case QEvent::LayoutRequest:
-                Containers::alignControls(m_container);
+                ControlLayout::alignControls(m_container);
                 break;
             default:
                 break;
@@ -115,7 +115,7 @@ bool hasAlignedChildren(QWidget *container)
 
 } // namespace
 
-namespace Containers {
+namespace ControlLayout {
 
 void alignControls(QWidget *container)
 {
@@ -259,7 +259,7 @@ void endLoading(const QList<QWidget *> &controls)
         alignControls(parent);
 }
 
-} // namespace Containers
+} // namespace ControlLayout
 
 TControl::TControl(QWidget *self) : m_self(self)
 {
@@ -487,7 +487,7 @@ void TControl::parentChanged()
         old->tabsChanged();
         if (m_align != alNone)
             --old->alignedChildren;
-        Containers::alignControls(oldParent);
+        ControlLayout::alignControls(oldParent);
     }
     m_tabParent = parent;
     if (!parent) {
@@ -499,7 +499,7 @@ void TControl::parentChanged()
         ++info->alignedChildren;
     if (classInfo().windowed) {
         if (isLoading()) {
-            // Linked once when loading ends (Containers::endLoading).
+            // Linked once when loading ends (ControlLayout::endLoading).
             info->tabs.append(m_self);
             info->tabsChanged();
         } else {
@@ -523,7 +523,7 @@ void TControl::parentChanged()
 void TControl::requestParentAlign()
 {
     if (m_self->parentWidget())
-        Containers::alignControls(m_self->parentWidget());
+        ControlLayout::alignControls(m_self->parentWidget());
 }
 
 void TControl::controlEvent(QEvent *event)

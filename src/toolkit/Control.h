@@ -77,7 +77,7 @@ public:
     void setTabStop(bool tabStop) { m_tabStop = tabStop; }
     // The position among the windowed controls of the same parent, -1 without one.
     // While loading, the wish is kept and applied when loading ends, so the
-    // order of reading does not matter (see Containers::endLoading).
+    // order of reading does not matter (see ControlLayout::endLoading).
     int TabOrder() const;
     void setTabOrder(int order);
 
@@ -92,7 +92,7 @@ public:
     void beginLoading() { m_state |= csLoading; }
     // Links the control into its container's focus chain, applies a tab
     // order given while loading and aligns, unless told not to (the
-    // container does all that at once, see Containers::endLoading).
+    // container does all that at once, see ControlLayout::endLoading).
     void endLoading(bool applyPendingTabOrder = true);
     // The tab order given while loading, -1 for none.
     int pendingTabOrder() const { return m_loadTabOrder; }
@@ -172,7 +172,7 @@ protected:
 // Per-container bookkeeping: the tab order list of its windowed controls and
 // the layout of its aligned children. Works for any container widget, also
 // for design surfaces that are no controls themselves.
-namespace Containers {
+namespace ControlLayout {
 // Lays the aligned children out: top, bottom, left, right, then client.
 void alignControls(QWidget *container);
 // The windowed controls of a container in tab order.
@@ -181,4 +181,4 @@ QList<QWidget *> tabList(QWidget *container);
 // given while loading are applied all at once (ties keep the order of
 // creation), then each control's loading ends.
 void endLoading(const QList<QWidget *> &controls);
-} // namespace Containers
+} // namespace ControlLayout

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 #include "Colors.h"
 
@@ -52,4 +54,25 @@ private:
     bool m_hotTrack = false;
     bool m_shadow = false;
     bool m_gradient = false;
+};
+
+// The shared look of a mask's edit controls: a control given a style
+// controller draws border, shadow, gradient and hot tracking as the controller
+// says and repaints when it changes; without one it keeps its own look.
+// Check boxes take only HotTrack and Shadow.
+class TEditStyled
+{
+public:
+    TcxEditStyleController *StyleController() const { return m_styleController; }
+    void setStyleController(TcxEditStyleController *controller);
+
+protected:
+    TEditStyled(QWidget *self, bool borders) : m_styledSelf(self), m_styledBorders(borders) {}
+    ~TEditStyled() = default;
+
+private:
+    QWidget *m_styledSelf;
+    bool m_styledBorders;
+    QPointer<TcxEditStyleController> m_styleController;
+    QPointer<QWidget> m_styleOverlay; // draws the style over the control
 };

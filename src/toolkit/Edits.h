@@ -67,27 +67,6 @@ private:
     TDesignInputGuard m_guard;
 };
 
-// The shared look of a mask's edit controls: a control given a style
-// controller draws border, shadow, gradient and hot tracking as the controller
-// says and repaints when it changes; without one it keeps its own look.
-// Check boxes take only HotTrack and Shadow.
-class TEditStyled
-{
-public:
-    TcxEditStyleController *StyleController() const { return m_styleController; }
-    void setStyleController(TcxEditStyleController *controller);
-
-protected:
-    TEditStyled(QWidget *self, bool borders) : m_styledSelf(self), m_styledBorders(borders) {}
-    ~TEditStyled() = default;
-
-private:
-    QWidget *m_styledSelf;
-    bool m_styledBorders;
-    QPointer<TcxEditStyleController> m_styleController;
-    QPointer<QWidget> m_styleOverlay; // draws the style over the control
-};
-
 // Converts text to the case an edit's CharCase asks for.
 QString applyCharCase(const QString &text, TEditCharCase charCase);
 

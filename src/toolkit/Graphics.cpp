@@ -36,8 +36,8 @@ const TClassInfo &TBevel::staticClassInfo()
         QStringLiteral("TBevel"),
         {
             P::Left(), P::Top(), P::Width(), P::Height(), P::Align(),
-            prop("Shape", &TBevel::Shape, &TBevel::setShape, EnumNames::BevelShape(), QVariant(int(bsBox))),
-            prop("Style", &TBevel::Style, &TBevel::setStyle, EnumNames::BevelStyle(), QVariant(int(bsLowered))),
+            prop("Shape", &TBevel::Shape, &TBevel::setShape, enumNames<TBevelShape>(), QVariant(int(bsBox))),
+            prop("Style", &TBevel::Style, &TBevel::setStyle, enumNames<TBevelStyle>(), QVariant(int(bsLowered))),
             P::Tag(), P::Hint(), P::ShowHint(), P::HelpKeyword(), P::Visible(),
         },
         [] { return new TBevel; }};
@@ -126,7 +126,7 @@ const TClassInfo &TShape::staticClassInfo()
                  QVariant::fromValue(Colors::clWhite)),
             prop("Pen.Color", &TShape::PenColor, &TShape::setPenColor, {}, QVariant::fromValue(Colors::clBlack)),
             prop("Pen.Width", &TShape::PenWidth, &TShape::setPenWidth, {}, QVariant(1)),
-            prop("Shape", &TShape::Shape, &TShape::setShape, EnumNames::ShapeType(), QVariant(int(stRectangle))),
+            prop("Shape", &TShape::Shape, &TShape::setShape, enumNames<TShapeType>(), QVariant(int(stRectangle))),
             P::Tag(), P::Hint(), P::ShowHint(), P::HelpKeyword(), P::Visible(),
         },
         [] { return new TShape; }};

@@ -24,12 +24,12 @@ QVector<TPropInfo> TLabel::labelProperties()
     namespace P = CommonProps;
     return {
         P::Left(), P::Top(), P::Width(), P::Height(), P::Align(),
-        prop("Alignment", &TLabel::Alignment, &TLabel::setAlignment, EnumNames::Alignment(),
+        prop("Alignment", &TLabel::Alignment, &TLabel::setAlignment, enumNames<TAlignment>(),
              QVariant(int(taLeftJustify))),
         prop("AutoSize", &TLabel::AutoSize, &TLabel::setAutoSize, {}, QVariant(true)),
         prop("Caption", &TLabel::Caption, &TLabel::setCaption),
         P::Color(), P::ParentColor(), P::Font(), P::ParentFont(),
-        prop("Layout", &TLabel::Layout, &TLabel::setLayout, EnumNames::TextLayout(), QVariant(int(tlTop))),
+        prop("Layout", &TLabel::Layout, &TLabel::setLayout, enumNames<TTextLayout>(), QVariant(int(tlTop))),
         P::Transparent(),
         prop("WordWrap", &TLabel::WordWrap, &TLabel::setWordWrap, {}, QVariant(false)),
         P::Tag(), P::Hint(), P::ShowHint(), P::HelpKeyword(), P::Visible(), P::Enabled(),

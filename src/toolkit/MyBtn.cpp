@@ -26,7 +26,7 @@ const TClassInfo &TMaskBtn::staticClassInfo()
             P::Font(), P::ParentFont(),
             prop("Colors.NormalText", &TMaskBtn::NormalTextColor, &TMaskBtn::setNormalTextColor, {},
                  QVariant::fromValue(Colors::clDefault)),
-            prop("Layout", &TMaskBtn::Layout, &TMaskBtn::setLayout, EnumNames::ButtonLayout(),
+            prop("Layout", &TMaskBtn::Layout, &TMaskBtn::setLayout, enumNames<TButtonLayout>(),
                  QVariant(int(blGlyphLeft))),
             prop("Margin", &TMaskBtn::Margin, &TMaskBtn::setMargin, {}, QVariant(-1)),
             prop("ZuweisMaske", &TMaskBtn::ZuweisMaske, &TMaskBtn::setZuweisMaske),

@@ -41,7 +41,7 @@ const TClassInfo &TAdvOfficePager::staticClassInfo()
             prop("ActivePageIndex", &TAdvOfficePager::ActivePageIndex, &TAdvOfficePager::setActivePageIndex),
             P::Font(), P::ParentFont(),
             prop("TabPosition", &TAdvOfficePager::TabPosition, &TAdvOfficePager::setTabPosition,
-                 EnumNames::TabPosition(), QVariant(int(tpTop))),
+                 enumNames<TTabPosition>(), QVariant(int(tpTop))),
             P::TabOrder(), P::TabStop(), P::Tag(), P::Hint(), P::ShowHint(), P::HelpKeyword(), P::Visible(), P::Enabled(),
         },
         [] { return new TAdvOfficePager; },

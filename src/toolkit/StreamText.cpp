@@ -207,6 +207,32 @@ private:
             ++m_pos;
     }
 
+    // The digits at the reading position, decimal or hexadecimal; fails with
+    // tooBig as soon as the value passes limit and with missing without a digit.
+    bool number(bool hex, quint64 limit, const QString &tooBig, const QString &missing, quint64 &n)
+    {
+        n = 0;
+        int digits = 0;
+        for (;;) {
+            const uchar c = peek();
+            int d = -1;
+            if (c >= '0' && c <= '9')
+                d = c - '0';
+            else if (hex && c >= 'a' && c <= 'f')
+                d = c - 'a' + 10;
+            else if (hex && c >= 'A' && c <= 'F')
+                d = c - 'A' + 10;
+            if (d < 0)
+                break;
+            n = n * (hex ? 16 : 10) + quint64(d);
+            ++digits;
+            ++m_pos;
+            if (n > limit)
+                return fail(tooBig);
+        }
+        return digits > 0 || fail(missing);
+    }
+
     bool fail(const QString &message)
     {
         if (m_error.isEmpty()) {
@@ -288,30 +314,13 @@ private:
         const bool hex = peek() == '$';
         if (hex)
             ++m_pos;
-        quint32 code = 0;
-        int digits = 0;
-        for (;;) {
-            const uchar c = peek();
-            int d = -1;
-            if (c >= '0' && c <= '9')
-                d = c - '0';
-            else if (hex && c >= 'a' && c <= 'f')
-                d = c - 'a' + 10;
-            else if (hex && c >= 'A' && c <= 'F')
-                d = c - 'A' + 10;
-            if (d < 0)
-                break;
-            code = code * (hex ? 16 : 10) + quint32(d);
-            ++digits;
-            ++m_pos;
-            if (code > 0x10FFFF)
-                return fail(QStringLiteral("ungültiger Zeichencode"));
-        }
-        if (digits == 0)
-            return fail(QStringLiteral("Zeichencode erwartet"));
+        quint64 code = 0;
+        if (!number(hex, 0x10FFFF, QStringLiteral("ungültiger Zeichencode"), QStringLiteral("Zeichencode erwartet"),
+                    code))
+            return false;
         if (code > 0xFFFF) {
-            out += QChar(QChar::highSurrogate(code));
-            out += QChar(QChar::lowSurrogate(code));
+            out += QChar(QChar::highSurrogate(char32_t(code)));
+            out += QChar(QChar::lowSurrogate(char32_t(code)));
         } else {
             out += QChar(char16_t(code));
         }
@@ -357,26 +366,8 @@ private:
         if (hex)
             ++m_pos;
         quint64 n = 0;
-        int digits = 0;
-        for (;;) {
-            const uchar c = peek();
-            int d = -1;
-            if (c >= '0' && c <= '9')
-                d = c - '0';
-            else if (hex && c >= 'a' && c <= 'f')
-                d = c - 'a' + 10;
-            else if (hex && c >= 'A' && c <= 'F')
-                d = c - 'A' + 10;
-            if (d < 0)
-                break;
-            n = n * (hex ? 16 : 10) + quint64(d);
-            ++digits;
-            ++m_pos;
-            if (n > 0xFFFFFFFFull)
-                return fail(QStringLiteral("Zahl zu groß"));
-        }
-        if (digits == 0)
-            return fail(QStringLiteral("Zahl erwartet"));
+        if (!number(hex, 0xFFFFFFFFull, QStringLiteral("Zahl zu groß"), QStringLiteral("Zahl erwartet"), n))
+            return false;
         if (isIdentChar(peek()))
             return fail(QStringLiteral("ungültige Zahl"));
         // Hex wraps into the sign as colours are written; decimal must fit.

@@ -15,10 +15,6 @@ class QWidget;
 
 enum class TStreamFormat { Binary, Text };
 
-struct TStreamError
-{
-    QString message;
-};
 
 // handled comes preset with the default (true for a property, false for an
 // unknown class); true skips the item and reading goes on, false aborts.

@@ -329,7 +329,7 @@ void TestClipboard::layoutRoundTripsThroughStreamsAndForms()
     f.show();
     QVERIFY(QTest::qWaitForWindowExposed(&f.form));
     const QStringList original = describe(f.surface);
-    const QList<QWidget *> tabs = Containers::tabList(inner);
+    const QList<QWidget *> tabs = ControlLayout::tabList(inner);
 
     QBuffer stream;
     stream.open(QIODevice::ReadWrite);
@@ -345,8 +345,8 @@ void TestClipboard::layoutRoundTripsThroughStreamsAndForms()
     QCOMPARE(describe(f.surface), original);
     auto *loadedInner = named<TPanel>(f.form, QStringLiteral("Panel2"));
     QVERIFY(loadedInner);
-    QCOMPARE(Containers::tabList(loadedInner).size(), tabs.size());
-    QCOMPARE(Containers::tabList(loadedInner).first()->objectName(), QStringLiteral("cxTextEdit1"));
+    QCOMPARE(ControlLayout::tabList(loadedInner).size(), tabs.size());
+    QCOMPARE(ControlLayout::tabList(loadedInner).first()->objectName(), QStringLiteral("cxTextEdit1"));
     QCOMPARE(Components::componentCount(&f.form), 5);
 
     // Without clearing, the loaded controls come in beside, renamed.

@@ -357,7 +357,7 @@ void TestCommands::tabOrderDialogReordersTheContainersControls()
     QCOMPARE(shown, (QStringList{e1->objectName() + QStringLiteral(": TcxTextEdit"),
                                  e2->objectName() + QStringLiteral(": TcxTextEdit"),
                                  e3->objectName() + QStringLiteral(": TcxTextEdit")}));
-    QCOMPARE(Containers::tabList(panel), (QList<QWidget *>{e1, e3, e2}));
+    QCOMPARE(ControlLayout::tabList(panel), (QList<QWidget *>{e1, e3, e2}));
     QCOMPARE(e3->TabOrder(), 1);
     QCOMPARE(changes, 1);
 
@@ -369,7 +369,7 @@ void TestCommands::tabOrderDialogReordersTheContainersControls()
         return int(QDialog::Rejected);
     };
     QVERIFY(!f.designer->TabOrderDialog());
-    QCOMPARE(Containers::tabList(panel), (QList<QWidget *>{e1, e3, e2}));
+    QCOMPARE(ControlLayout::tabList(panel), (QList<QWidget *>{e1, e3, e2}));
     QCOMPARE(changes, 1);
 
     // Nothing selected: the design control's controls.

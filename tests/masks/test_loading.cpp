@@ -590,7 +590,7 @@ void TestLoading::tabOrdersAndTheSortSection()
     TMaskDocument *mask = home.load(file);
     // Only the button stem can match a loaded control: MaskBtn1 moves to 4,
     // MaskBtn2 to 0; the fields keep their own TabOrder keys.
-    const QList<QWidget *> order = Containers::tabList(mask);
+    const QList<QWidget *> order = ControlLayout::tabList(mask);
     QStringList names;
     for (QWidget *w : order)
         names << w->objectName();

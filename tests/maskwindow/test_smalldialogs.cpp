@@ -9,7 +9,7 @@
 
 #include "../designer/helper_designform.h"
 #include "../designer/helper_dialogs.h"
-#include "AlignDlg.h"
+#include "FormAlignment.h"
 #include "Edits.h"
 #include "MemoDialog.h"
 #include "SizeForm.h"

@@ -43,7 +43,7 @@ void TestControlLayer::tabOrderIsPerParentAndFollowsReparenting()
     QCOMPARE(label->TabOrder(), -1); // a graphic control takes no focus
 
     c->setTabOrder(0);
-    QCOMPARE(Containers::tabList(&surface), (QList<QWidget *>{c, a, b, panel}));
+    QCOMPARE(ControlLayout::tabList(&surface), (QList<QWidget *>{c, a, b, panel}));
     c->setTabOrder(99); // past the end: last
     QCOMPARE(c->TabOrder(), 3);
     c->setTabOrder(-1); // ignored
@@ -52,12 +52,12 @@ void TestControlLayer::tabOrderIsPerParentAndFollowsReparenting()
     // Moving to the panel starts a new numbering there and closes the gap here.
     b->setParent(panel);
     QCOMPARE(b->TabOrder(), 0);
-    QCOMPARE(Containers::tabList(&surface), (QList<QWidget *>{a, panel, c}));
+    QCOMPARE(ControlLayout::tabList(&surface), (QList<QWidget *>{a, panel, c}));
     auto *d = new TMaskBtn(panel);
     QCOMPARE(d->TabOrder(), 1);
     delete b;
     QCOMPARE(d->TabOrder(), 0);
-    QCOMPARE(Containers::tabList(panel), (QList<QWidget *>{d}));
+    QCOMPARE(ControlLayout::tabList(panel), (QList<QWidget *>{d}));
 
     // The focus chain follows the tab order.
     surface.show();

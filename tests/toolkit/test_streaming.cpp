@@ -202,7 +202,7 @@ void TestStreaming::childrenKeepStructureOrderAndTabOrder()
     // land before the others.
     last->setTabOrder(0);
     inner->setTabOrder(1);
-    QCOMPARE(Containers::tabList(panel), (QList<QWidget *>{last, inner, button}));
+    QCOMPARE(ControlLayout::tabList(panel), (QList<QWidget *>{last, inner, button}));
 
     for (TStreamFormat format : {TStreamFormat::Binary, TStreamFormat::Text}) {
         QWidget target;
@@ -244,7 +244,7 @@ void TestStreaming::childrenKeepStructureOrderAndTabOrder()
         QVERIFY(editCopy);
         QCOMPARE(editCopy->parentWidget(), children.at(2));
         QCOMPARE(editCopy->geometry(), QRect(3, 4, 120, 21));
-        QCOMPARE(Containers::tabList(copy), (QList<QWidget *>{children.at(3), children.at(2), children.at(1)}));
+        QCOMPARE(ControlLayout::tabList(copy), (QList<QWidget *>{children.at(3), children.at(2), children.at(1)}));
         for (QWidget *w : std::as_const(created))
             QVERIFY2(w->isVisible(), qPrintable(w->objectName()));
     }

@@ -1,5 +1,5 @@
 // The loaders of the control kinds: each creates one control from its section.
-#include "MaskReader.h"
+#include "ControlReader.h"
 
 #include "CommaText.h"
 #include "Components.h"
@@ -32,42 +32,42 @@ const QString kError = QStringLiteral("ERROR");
 const QString kArial = QStringLiteral("Arial");
 } // namespace
 
-TMaskReader::TMaskReader(TMaskDocument *mask, const TMemIniFile &ini) : m_mask(mask), m_ini(ini) {}
+TControlReader::TControlReader(TMaskDocument *mask, const TMemIniFile &ini) : m_mask(mask), m_ini(ini) {}
 
-QString TMaskReader::str(const QString &section, const QString &key, const QString &def) const
+QString TControlReader::str(const QString &section, const QString &key, const QString &def) const
 {
     return m_ini.readString(section, key, def);
 }
 
-int TMaskReader::integer(const QString &section, const QString &key, int def) const
+int TControlReader::integer(const QString &section, const QString &key, int def) const
 {
     return m_ini.readInteger(section, key, def);
 }
 
-bool TMaskReader::boolean(const QString &section, const QString &key, bool def) const
+bool TControlReader::boolean(const QString &section, const QString &key, bool def) const
 {
     return m_ini.readBool(section, key, def);
 }
 
-TColor TMaskReader::color(const QString &section, const QString &key, TColor def) const
+TColor TControlReader::color(const QString &section, const QString &key, TColor def) const
 {
     return m_ini.readColor(section, key, def);
 }
 
-int TMaskReader::ordinal(const QString &section, const QString &key, int def, int count) const
+int TControlReader::ordinal(const QString &section, const QString &key, int def, int count) const
 {
     const int v = integer(section, key, def);
     return v >= 0 && v < count ? v : def;
 }
 
-void TMaskReader::bounds(TControl *c, const QString &section, int defHeight, int defWidth, int defPos) const
+void TControlReader::bounds(TControl *c, const QString &section, int defHeight, int defWidth, int defPos) const
 {
     // Exactly as stored: loading controls never size themselves.
     c->setBounds(integer(section, kLeft, defPos), integer(section, kTop, defPos), integer(section, kWidth, defWidth),
                  integer(section, kHeight, defHeight));
 }
 
-TFont TMaskReader::defaultFont(const QString &name, int size)
+TFont TControlReader::defaultFont(const QString &name, int size)
 {
     TFont f;
     f.Name = name;
@@ -76,7 +76,7 @@ TFont TMaskReader::defaultFont(const QString &name, int size)
     return f;
 }
 
-TFont TMaskReader::font(const QString &section, const QString &sizeKey, const TFont &def, const QString &nameKey,
+TFont TControlReader::font(const QString &section, const QString &sizeKey, const TFont &def, const QString &nameKey,
                         const QString &colorKey, const QString &styleKey) const
 {
     TFont f;
@@ -89,7 +89,7 @@ TFont TMaskReader::font(const QString &section, const QString &sizeKey, const TF
     return f;
 }
 
-void TMaskReader::readTabOrder(TControl *c, const QString &section) const
+void TControlReader::readTabOrder(TControl *c, const QString &section) const
 {
     // The default is the place the control already has.
     const int order = integer(section, QStringLiteral("TabOrder"), -1);
@@ -97,13 +97,13 @@ void TMaskReader::readTabOrder(TControl *c, const QString &section) const
         c->setTabOrder(order);
 }
 
-void TMaskReader::styled(QWidget *w) const
+void TControlReader::styled(QWidget *w) const
 {
     if (auto *s = dynamic_cast<TEditStyled *>(w))
         s->setStyleController(m_mask->cxStyleController());
 }
 
-QWidget *TMaskReader::parentFor(const QString &section, const QWidget *self) const
+QWidget *TControlReader::parentFor(const QString &section, const QWidget *self) const
 {
     const QString name = str(section, kParent, QStringLiteral("Maske"));
     // Only a windowed control made before this one can hold it; anything
@@ -117,7 +117,7 @@ QWidget *TMaskReader::parentFor(const QString &section, const QWidget *self) con
 }
 
 template <class T>
-T *TMaskReader::create(const QString &section, const QString &fixedName)
+T *TControlReader::create(const QString &section, const QString &fixedName)
 {
     auto *w = new T;
     w->beginLoading();
@@ -132,7 +132,7 @@ T *TMaskReader::create(const QString &section, const QString &fixedName)
     return w;
 }
 
-void TMaskReader::LoadPageControl(const QString &s)
+void TControlReader::LoadPageControl(const QString &s)
 {
     auto *pager = create<TAdvOfficePager>(s);
     m_mask->setOfficePagerStyle(ordinal(s, QStringLiteral("Style"), 6, 10));
@@ -145,7 +145,7 @@ void TMaskReader::LoadPageControl(const QString &s)
     pager->setFont(font(s, kFontSize, defaultFont(QStringLiteral("Tahoma"), 10)));
 }
 
-void TMaskReader::LoadPage(const QString &s)
+void TControlReader::LoadPage(const QString &s)
 {
     auto *page = create<TAdvOfficePage>(s);
     auto *pager = qobject_cast<TAdvOfficePager *>(page->parentWidget());
@@ -159,7 +159,7 @@ void TMaskReader::LoadPage(const QString &s)
         pager->setActivePageIndex(pager->ActivePageIndex());
 }
 
-void TMaskReader::LoadPanel(const QString &s)
+void TControlReader::LoadPanel(const QString &s)
 {
     auto *panel = create<TPanel>(s);
     panel->setCaption(str(s, kName));
@@ -174,7 +174,7 @@ void TMaskReader::LoadPanel(const QString &s)
     panel->setAlign(TAlign(ordinal(s, kAlignment, alTop, alCustom + 1)));
 }
 
-void TMaskReader::LoadLabel(const QString &s)
+void TControlReader::LoadLabel(const QString &s)
 {
     auto *label = create<TLabel>(s);
     label->setCaption(str(s, kName, kError));
@@ -188,7 +188,7 @@ void TMaskReader::LoadLabel(const QString &s)
     label->setTransparent(true);
 }
 
-void TMaskReader::LoadDBLabel(const QString &s)
+void TControlReader::LoadDBLabel(const QString &s)
 {
     auto *label = create<TDBLabel>(s);
     label->setCaption(str(s, kName, kError));
@@ -206,7 +206,7 @@ void TMaskReader::LoadDBLabel(const QString &s)
     label->setTransparent(true);
 }
 
-void TMaskReader::LoadField(const QString &s)
+void TControlReader::LoadField(const QString &s)
 {
     auto *edit = create<TcxTextEdit>(s);
     styled(edit);
@@ -224,7 +224,7 @@ void TMaskReader::LoadField(const QString &s)
     edit->setCharCase(TEditCharCase(ordinal(s, QStringLiteral("CharCase"), ecNormal, ecLowerCase + 1)));
 }
 
-void TMaskReader::LoadLField(const QString &s)
+void TControlReader::LoadLField(const QString &s)
 {
     auto *lookup = create<TcxDBPopupEdit>(s);
     styled(lookup);
@@ -244,7 +244,7 @@ void TMaskReader::LoadLField(const QString &s)
     lookup->setHint(str(s, QStringLiteral("MaskEdit")));
 }
 
-void TMaskReader::LoadCField(const QString &s)
+void TControlReader::LoadCField(const QString &s)
 {
     auto *combo = create<TcxComboBox>(s);
     styled(combo);
@@ -262,7 +262,7 @@ void TMaskReader::LoadCField(const QString &s)
     combo->setFont(font(s, kFSize, defaultFont(kArial, 10)));
 }
 
-void TMaskReader::LoadMemo(const QString &s)
+void TControlReader::LoadMemo(const QString &s)
 {
     auto *memo = create<TcxMemo>(s);
     styled(memo);
@@ -277,7 +277,7 @@ void TMaskReader::LoadMemo(const QString &s)
     memo->setScrollBars(TScrollStyle(ordinal(s, QStringLiteral("ScrollBars"), ssNone, ssBoth + 1)));
 }
 
-void TMaskReader::LoadCheckBox(const QString &s)
+void TControlReader::LoadCheckBox(const QString &s)
 {
     auto *check = create<TcxDBCheckBox>(s);
     styled(check);
@@ -294,21 +294,21 @@ void TMaskReader::LoadCheckBox(const QString &s)
     check->setAlignment(TAlignment(ordinal(s, kAlignment, taLeftJustify, taCenter + 1)));
 }
 
-void TMaskReader::LoadBevel(const QString &s)
+void TControlReader::LoadBevel(const QString &s)
 {
     auto *bevel = create<TBevel>(s);
     bounds(bevel, s, 0, 0);
     bevel->setShape(TBevelShape(ordinal(s, kTyp, bsBox, bsSpacer + 1)));
 }
 
-void TMaskReader::LoadImage(const QString &s)
+void TControlReader::LoadImage(const QString &s)
 {
     auto *image = create<TImageAspect>(s);
     image->setFileName(str(s, QStringLiteral("FileName")));
     bounds(image, s, 0, 0);
 }
 
-void TMaskReader::LoadShape(const QString &s)
+void TControlReader::LoadShape(const QString &s)
 {
     auto *shape = create<TShape>(s);
     bounds(shape, s, 0, 0);
@@ -317,7 +317,7 @@ void TMaskReader::LoadShape(const QString &s)
     shape->setPenColor(color(s, QStringLiteral("FPColor"), TColor(0)));
 }
 
-void TMaskReader::LoadButton(const QString &s)
+void TControlReader::LoadButton(const QString &s)
 {
     auto *button = create<TMaskBtn>(s);
     button->setCaption(str(s, kName, kError));
@@ -342,7 +342,7 @@ void TMaskReader::LoadButton(const QString &s)
     button->setRunAs(boolean(s, QStringLiteral("RunAs"), false));
 }
 
-void TMaskReader::LoadBrowser(const QString &s)
+void TControlReader::LoadBrowser(const QString &s)
 {
     auto *grid = create<TDBGrid>(s);
     // A column to show while designing.
@@ -362,7 +362,7 @@ void TMaskReader::LoadBrowser(const QString &s)
     grid->setHint(str(s, QStringLiteral("DataBase")));
 }
 
-void TMaskReader::LoadTreeList(const QString &s)
+void TControlReader::LoadTreeList(const QString &s)
 {
     auto *tree = create<TcxDBTreeList>(s);
     tree->setStateIndexField(str(s, QStringLiteral("Index")));
@@ -377,7 +377,7 @@ void TMaskReader::LoadTreeList(const QString &s)
     tree->setFont(font(s, kFSize, tree->Font()));
 }
 
-void TMaskReader::LoadStringGrid(const QString &s)
+void TControlReader::LoadStringGrid(const QString &s)
 {
     auto *grid = create<TStringGrid>(s);
     bounds(grid, s, 0, 0);
@@ -386,7 +386,7 @@ void TMaskReader::LoadStringGrid(const QString &s)
     grid->setHint(str(s, QStringLiteral("Felder")));
 }
 
-void TMaskReader::LoadRadioGroup(const QString &s)
+void TControlReader::LoadRadioGroup(const QString &s)
 {
     auto *group = create<TDBRadioGroup>(s);
     group->setDataField(str(s, QStringLiteral("Datafield")));
@@ -401,7 +401,7 @@ void TMaskReader::LoadRadioGroup(const QString &s)
     group->setColumns(std::max(1, integer(s, QStringLiteral("Columns"), 1)));
 }
 
-void TMaskReader::LoadView(const QString &viewSection)
+void TControlReader::LoadView(const QString &viewSection)
 {
     if (integer(viewSection, kLeft, -1) < 0)
         return;
@@ -417,7 +417,7 @@ void TMaskReader::LoadView(const QString &viewSection)
     tabs->setTabs({QStringLiteral(".DWG"), QStringLiteral(".DXF"), QStringLiteral(".JPG"), QStringLiteral(".TGA")});
 }
 
-void TMaskReader::finish()
+void TControlReader::finish()
 {
     // The mask's component order follows the file, so saving a loaded mask
     // writes its sections in the order they were read.
@@ -431,5 +431,5 @@ void TMaskReader::finish()
     });
     Components::reorder(m_mask, ordered);
 
-    Containers::endLoading(m_controls);
+    ControlLayout::endLoading(m_controls);
 }

@@ -16,10 +16,10 @@ struct TControlKind;
 // Each kind counts its own sections from 1 in the order they are visited;
 // the tab-capable kinds add their line to "Sort", combo boxes their item
 // lists to the pick-list blocks.
-class TMaskWriter
+class TControlWriter
 {
 public:
-    TMaskWriter(const TMaskDocument *mask, TMemIniFile &ini, QStringList &pickLists);
+    TControlWriter(const TMaskDocument *mask, TMemIniFile &ini, QStringList &pickLists);
 
     // Writes the control when its exact class is one the mask file knows;
     // other components are not saved.

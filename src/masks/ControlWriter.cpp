@@ -1,6 +1,6 @@
 // The writers of the control kinds: one section per control, keys in the
 // order the application family's runtime knows them.
-#include "MaskWriterControls.h"
+#include "ControlWriter.h"
 
 #include "CommaText.h"
 #include "ControlKinds.h"
@@ -23,12 +23,12 @@ T *as(QWidget *w)
 }
 } // namespace
 
-TMaskWriter::TMaskWriter(const TMaskDocument *mask, TMemIniFile &ini, QStringList &pickLists)
+TControlWriter::TControlWriter(const TMaskDocument *mask, TMemIniFile &ini, QStringList &pickLists)
     : m_mask(mask), m_ini(ini), m_pickLists(pickLists)
 {
 }
 
-void TMaskWriter::write(QObject *component)
+void TControlWriter::write(QObject *component)
 {
     auto *w = qobject_cast<QWidget *>(component);
     // The exact class decides, not a base class: a label of another class
@@ -43,7 +43,7 @@ void TMaskWriter::write(QObject *component)
         sortLine(TControl::from(w), *kind, number);
 }
 
-QString TMaskWriter::sectionOf(const TControlKind &kind, const QWidget *w, QString *number)
+QString TControlWriter::sectionOf(const TControlKind &kind, const QWidget *w, QString *number)
 {
     // The grid named "DBGrid1" is the mask's main grid; it is not counted.
     if (kind.singleSection && (!kind.sectionPrefix || w->objectName() == QLatin1String(kind.singleName)))
@@ -53,33 +53,33 @@ QString TMaskWriter::sectionOf(const TControlKind &kind, const QWidget *w, QStri
     return prefix + *number;
 }
 
-void TMaskWriter::str(const QString &s, const char *key, const QString &value)
+void TControlWriter::str(const QString &s, const char *key, const QString &value)
 {
     m_ini.writeString(s, QString::fromLatin1(key), value);
 }
 
-void TMaskWriter::integer(const QString &s, const char *key, int value)
+void TControlWriter::integer(const QString &s, const char *key, int value)
 {
     m_ini.writeInteger(s, QString::fromLatin1(key), value);
 }
 
-void TMaskWriter::boolean(const QString &s, const char *key, bool value)
+void TControlWriter::boolean(const QString &s, const char *key, bool value)
 {
     m_ini.writeBool(s, QString::fromLatin1(key), value);
 }
 
-void TMaskWriter::color(const QString &s, const char *key, TColor value)
+void TControlWriter::color(const QString &s, const char *key, TColor value)
 {
     m_ini.writeColor(s, QString::fromLatin1(key), value);
 }
 
-void TMaskWriter::parent(const QString &s, QWidget *w)
+void TControlWriter::parent(const QString &s, QWidget *w)
 {
     const QWidget *p = w->parentWidget();
     str(s, "Parent", p ? p->objectName() : QStringLiteral("Maske"));
 }
 
-void TMaskWriter::bounds(const QString &s, const TControl *c)
+void TControlWriter::bounds(const QString &s, const TControl *c)
 {
     integer(s, "Left", c->Left());
     integer(s, "Top", c->Top());
@@ -87,7 +87,7 @@ void TMaskWriter::bounds(const QString &s, const TControl *c)
     integer(s, "Width", c->Width());
 }
 
-void TMaskWriter::fontColorFirst(const QString &s, const TControl *c, const char *sizeKey)
+void TControlWriter::fontColorFirst(const QString &s, const TControl *c, const char *sizeKey)
 {
     const TFont f = c->Font();
     color(s, "FColor", f.Color);
@@ -96,7 +96,7 @@ void TMaskWriter::fontColorFirst(const QString &s, const TControl *c, const char
     str(s, "FStyle", FontStylesToString(f.Style));
 }
 
-void TMaskWriter::fontColorAfterSize(const QString &s, const TControl *c)
+void TControlWriter::fontColorAfterSize(const QString &s, const TControl *c)
 {
     const TFont f = c->Font();
     str(s, "FName", f.Name);
@@ -105,7 +105,7 @@ void TMaskWriter::fontColorAfterSize(const QString &s, const TControl *c)
     str(s, "FStyle", FontStylesToString(f.Style));
 }
 
-void TMaskWriter::sortLine(const TControl *c, const TControlKind &kind, const QString &number)
+void TControlWriter::sortLine(const TControl *c, const TControlKind &kind, const QString &number)
 {
     // Tab orders count per parent: a later control with the same order
     // overwrites the line of an earlier one.
@@ -113,7 +113,7 @@ void TMaskWriter::sortLine(const TControl *c, const TControlKind &kind, const QS
                       QString::number(kind.sortCode) + QLatin1Char('-') + QLatin1String(kind.sortWord) + number);
 }
 
-void TMaskWriter::WritePageControl(QWidget *w, const QString &s)
+void TControlWriter::WritePageControl(QWidget *w, const QString &s)
 {
     auto *pager = as<TAdvOfficePager>(w);
     parent(s, w);
@@ -125,7 +125,7 @@ void TMaskWriter::WritePageControl(QWidget *w, const QString &s)
     fontColorFirst(s, pager, "FontSize");
 }
 
-void TMaskWriter::WritePage(QWidget *w, const QString &s)
+void TControlWriter::WritePage(QWidget *w, const QString &s)
 {
     auto *page = as<TAdvOfficePage>(w);
     parent(s, w);
@@ -133,7 +133,7 @@ void TMaskWriter::WritePage(QWidget *w, const QString &s)
     str(s, "Name", page->Caption());
 }
 
-void TMaskWriter::WriteLabel(QWidget *w, const QString &s)
+void TControlWriter::WriteLabel(QWidget *w, const QString &s)
 {
     auto *label = as<TLabel>(w);
     parent(s, w);
@@ -145,7 +145,7 @@ void TMaskWriter::WriteLabel(QWidget *w, const QString &s)
     integer(s, "Alignment", label->Alignment());
 }
 
-void TMaskWriter::WriteDBLabel(QWidget *w, const QString &s)
+void TControlWriter::WriteDBLabel(QWidget *w, const QString &s)
 {
     auto *label = as<TDBLabel>(w);
     parent(s, w);
@@ -161,7 +161,7 @@ void TMaskWriter::WriteDBLabel(QWidget *w, const QString &s)
     boolean(s, "BrowserEdit", label->BrowserEdit());
 }
 
-void TMaskWriter::WriteField(QWidget *w, const QString &s)
+void TControlWriter::WriteField(QWidget *w, const QString &s)
 {
     auto *edit = as<TcxTextEdit>(w);
     parent(s, w);
@@ -182,7 +182,7 @@ void TMaskWriter::WriteField(QWidget *w, const QString &s)
     integer(s, "CharCase", edit->CharCase());
 }
 
-void TMaskWriter::WriteLField(QWidget *w, const QString &s)
+void TControlWriter::WriteLField(QWidget *w, const QString &s)
 {
     auto *lookup = as<TcxDBPopupEdit>(w);
     const TFont f = lookup->Font();
@@ -207,7 +207,7 @@ void TMaskWriter::WriteLField(QWidget *w, const QString &s)
     integer(s, "CharCase", lookup->CharCase());
 }
 
-void TMaskWriter::WriteCField(QWidget *w, const QString &s)
+void TControlWriter::WriteCField(QWidget *w, const QString &s)
 {
     auto *combo = as<TcxComboBox>(w);
     parent(s, w);
@@ -235,7 +235,7 @@ void TMaskWriter::WriteCField(QWidget *w, const QString &s)
     fontColorAfterSize(s, combo);
 }
 
-void TMaskWriter::WriteMemo(QWidget *w, const QString &s)
+void TControlWriter::WriteMemo(QWidget *w, const QString &s)
 {
     auto *memo = as<TcxMemo>(w);
     parent(s, w);
@@ -250,7 +250,7 @@ void TMaskWriter::WriteMemo(QWidget *w, const QString &s)
     integer(s, "Scrollbars", memo->ScrollBars());
 }
 
-void TMaskWriter::WriteCheckBox(QWidget *w, const QString &s)
+void TControlWriter::WriteCheckBox(QWidget *w, const QString &s)
 {
     auto *check = as<TcxDBCheckBox>(w);
     parent(s, w);
@@ -267,7 +267,7 @@ void TMaskWriter::WriteCheckBox(QWidget *w, const QString &s)
     integer(s, "Alignment", check->Alignment());
 }
 
-void TMaskWriter::WriteBevel(QWidget *w, const QString &s)
+void TControlWriter::WriteBevel(QWidget *w, const QString &s)
 {
     auto *bevel = as<TBevel>(w);
     parent(s, w);
@@ -275,7 +275,7 @@ void TMaskWriter::WriteBevel(QWidget *w, const QString &s)
     integer(s, "Typ", bevel->Shape());
 }
 
-void TMaskWriter::WriteImage(QWidget *w, const QString &s)
+void TControlWriter::WriteImage(QWidget *w, const QString &s)
 {
     auto *image = as<TImageAspect>(w);
     parent(s, w);
@@ -283,7 +283,7 @@ void TMaskWriter::WriteImage(QWidget *w, const QString &s)
     bounds(s, image);
 }
 
-void TMaskWriter::WritePanel(QWidget *w, const QString &s)
+void TControlWriter::WritePanel(QWidget *w, const QString &s)
 {
     auto *panel = as<TPanel>(w);
     parent(s, w);
@@ -299,7 +299,7 @@ void TMaskWriter::WritePanel(QWidget *w, const QString &s)
     integer(s, "Alignment", panel->Align());
 }
 
-void TMaskWriter::WriteShape(QWidget *w, const QString &s)
+void TControlWriter::WriteShape(QWidget *w, const QString &s)
 {
     auto *shape = as<TShape>(w);
     parent(s, w);
@@ -309,7 +309,7 @@ void TMaskWriter::WriteShape(QWidget *w, const QString &s)
     color(s, "FPColor", shape->PenColor());
 }
 
-void TMaskWriter::WriteButton(QWidget *w, const QString &s)
+void TControlWriter::WriteButton(QWidget *w, const QString &s)
 {
     auto *button = as<TMaskBtn>(w);
     const TFont f = button->Font();
@@ -337,7 +337,7 @@ void TMaskWriter::WriteButton(QWidget *w, const QString &s)
     boolean(s, "RunAs", button->RunAs());
 }
 
-void TMaskWriter::WriteBrowser(QWidget *w, const QString &s)
+void TControlWriter::WriteBrowser(QWidget *w, const QString &s)
 {
     const bool mainGrid = s == QLatin1String("Browser");
     auto *grid = as<TDBGrid>(w);
@@ -365,7 +365,7 @@ void TMaskWriter::WriteBrowser(QWidget *w, const QString &s)
         str(s, "DataBase", grid->Hint());
 }
 
-void TMaskWriter::WriteTreeList(QWidget *w, const QString &s)
+void TControlWriter::WriteTreeList(QWidget *w, const QString &s)
 {
     auto *tree = as<TcxDBTreeList>(w);
     str(s, "Name", tree->objectName());
@@ -383,7 +383,7 @@ void TMaskWriter::WriteTreeList(QWidget *w, const QString &s)
     fontColorAfterSize(s, tree);
 }
 
-void TMaskWriter::WriteStringGrid(QWidget *w, const QString &s)
+void TControlWriter::WriteStringGrid(QWidget *w, const QString &s)
 {
     auto *grid = as<TStringGrid>(w);
     parent(s, w);
@@ -393,7 +393,7 @@ void TMaskWriter::WriteStringGrid(QWidget *w, const QString &s)
     fontColorAfterSize(s, grid);
 }
 
-void TMaskWriter::WriteRadioGroup(QWidget *w, const QString &s)
+void TControlWriter::WriteRadioGroup(QWidget *w, const QString &s)
 {
     auto *group = as<TDBRadioGroup>(w);
     parent(s, w);
@@ -408,13 +408,13 @@ void TMaskWriter::WriteRadioGroup(QWidget *w, const QString &s)
     integer(s, "Columns", group->Columns());
 }
 
-void TMaskWriter::WriteView(QWidget *w, const QString &s)
+void TControlWriter::WriteView(QWidget *w, const QString &s)
 {
     parent(s, w);
     bounds(s, TControl::from(w));
 }
 
-void TMaskWriter::WriteTab(QWidget *w, const QString &s)
+void TControlWriter::WriteTab(QWidget *w, const QString &s)
 {
     const TControl *tabs = TControl::from(w);
     parent(s, w);

@@ -14,10 +14,10 @@ class TControl;
 // Creates the controls of one mask file in a mask document, one loader per
 // kind of control (the kinds table names them). Every control stays in its loading state until finish(),
 // so nothing sizes itself and tab orders are applied all at once.
-class TMaskReader
+class TControlReader
 {
 public:
-    TMaskReader(TMaskDocument *mask, const TMemIniFile &ini);
+    TControlReader(TMaskDocument *mask, const TMemIniFile &ini);
 
     void LoadPageControl(const QString &section);
     void LoadPage(const QString &section);

@@ -1,4 +1,4 @@
-#include "AlignDlg.h"
+#include "FormAlignment.h"
 
 #include <QGridLayout>
 #include <QIcon>
