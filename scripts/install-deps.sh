@@ -8,6 +8,8 @@ packages=(
     qt6-base-dev qt6-base-dev-tools libgl-dev
     libqt6sql6-sqlite libqt6sql6-psql qt6-image-formats-plugins qt6-qpa-plugins
     fonts-dejavu-core fonts-liberation2 qt6-tools-dev libqt6opengl6-dev
+    qt6-l10n-tools qt6-translations-l10n
+    dpkg-dev librsvg2-bin desktop-file-utils appstream shared-mime-info
 )
 
 missing=()

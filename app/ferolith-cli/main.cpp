@@ -7,6 +7,7 @@
 
 #include "AppPaths.h"
 #include "CliCommands.h"
+#include "Localiser.h"
 #include "Version.h"
 
 namespace {
@@ -61,6 +62,7 @@ int main(int argc, char *argv[])
         return 2;
     }
     args.removeFirst();
+    Localiser::activate();
 
     if (args.isEmpty()) {
         err << usage();

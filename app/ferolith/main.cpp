@@ -7,6 +7,7 @@
 #include <QTextStream>
 
 #include "AppPaths.h"
+#include "Localiser.h"
 #include "MainForm.h"
 #include "Version.h"
 
@@ -14,7 +15,8 @@ namespace {
 
 QString usage()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+        "ferolith",
         "Aufruf: ferolith [--ini DATEI] [MASKE.dbm]\n"
         "\n"
         "Ferolith: Masken-Designer für Quorbex 18.x.\n"
@@ -26,6 +28,11 @@ QString usage()
         "  --screenshot BILD.png  Hauptfenster mit einer neuen Maske als Bild speichern und beenden\n");
 }
 
+QString screenshotNeedsFile()
+{
+    return QCoreApplication::translate("ferolith", "Die Option --screenshot braucht einen Dateinamen.");
+}
+
 // Takes "--screenshot FILE" or "--screenshot=FILE" out of the arguments.
 bool takeScreenshotOption(QStringList &arguments, QString &file, QString &error)
 {
@@ -33,7 +40,7 @@ bool takeScreenshotOption(QStringList &arguments, QString &file, QString &error)
         const QString arg = arguments.at(i);
         if (arg == QLatin1String("--screenshot")) {
             if (i + 1 >= arguments.size() || arguments.at(i + 1).isEmpty()) {
-                error = QStringLiteral("Die Option --screenshot braucht einen Dateinamen.");
+                error = screenshotNeedsFile();
                 return false;
             }
             file = arguments.at(i + 1);
@@ -44,7 +51,7 @@ bool takeScreenshotOption(QStringList &arguments, QString &file, QString &error)
             file = arg.mid(13);
             arguments.removeAt(i);
             if (file.isEmpty()) {
-                error = QStringLiteral("Die Option --screenshot braucht einen Dateinamen.");
+                error = screenshotNeedsFile();
                 return false;
             }
             return true;
@@ -53,7 +60,7 @@ bool takeScreenshotOption(QStringList &arguments, QString &file, QString &error)
     return true;
 }
 
-// --help and --version answer before the application object exists, so they
+// --help and --version answer before the GUI application exists, so they
 // also work where no display can be opened.
 int answerInfoOptions(int argc, char *argv[])
 {
@@ -62,6 +69,12 @@ int answerInfoOptions(int argc, char *argv[])
         if (arg == QLatin1String("--ini") || arg == QLatin1String("--screenshot")) {
             ++i;
         } else if (arg == QLatin1String("-h") || arg == QLatin1String("--help")) {
+            // The help is in the user's language, which the settings file may choose.
+            QCoreApplication core(argc, argv);
+            QCoreApplication::setApplicationName(QStringLiteral("ferolith"));
+            QStringList args = QCoreApplication::arguments();
+            AppPaths::takeIniOption(args);
+            Localiser::activate();
             QTextStream(stdout) << usage();
             return 0;
         } else if (arg == QLatin1String("-v") || arg == QLatin1String("--version")) {
@@ -82,6 +95,8 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("ferolith"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quorbex - Ferolith"));
     QApplication::setApplicationVersion(Version::text());
+    // Lets the desktop match the windows to the installed desktop entry and its icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("de.tolvane.ferolith"));
 
     QTextStream out(stdout);
     QTextStream err(stderr);
@@ -92,6 +107,7 @@ int main(int argc, char *argv[])
         return 2;
     }
     args.removeFirst();
+    Localiser::activate();
 
     QString screenshot;
     if (!takeScreenshotOption(args, screenshot, error)) {
@@ -118,7 +134,9 @@ int main(int argc, char *argv[])
     QApplication::processEvents();
     const QString target = QFileInfo(screenshot).absoluteFilePath();
     if (!mainForm.grab().save(target)) {
-        err << "ferolith: Das Bild „" << QDir::toNativeSeparators(target) << "“ konnte nicht gespeichert werden."
+        err << "ferolith: "
+            << QCoreApplication::translate("ferolith", "Das Bild „%1“ konnte nicht gespeichert werden.")
+                   .arg(QDir::toNativeSeparators(target))
             << Qt::endl;
         return 1;
     }

@@ -19,6 +19,24 @@ QString applicationBaseName()
         name = QStringLiteral("ferolith");
     return name;
 }
+
+// An installed program lives in a folder of the system. Its settings belong
+// to the user even when the folder could be written (by root), so they go
+// to the user's configuration folder as every other program's do.
+bool isSystemFolder(const QString &folder)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(folder);
+    return false;
+#else
+    const QString path = QDir::cleanPath(folder) + QLatin1Char('/');
+    for (const char *prefix : {"/usr/", "/bin/", "/sbin/", "/opt/", "/snap/"}) {
+        if (path.startsWith(QLatin1String(prefix)))
+            return true;
+    }
+    return false;
+#endif
+}
 } // namespace
 
 namespace AppPaths {
@@ -43,10 +61,15 @@ QString settingsFile()
 {
     if (!overridePath().isEmpty())
         return QDir::toNativeSeparators(overridePath());
+    return settingsFileFor(QCoreApplication::applicationDirPath());
+}
+
+QString settingsFileFor(const QString &programFolder)
+{
     const QString fileName = applicationBaseName() + QStringLiteral(".ini");
-    const QFileInfo exeDir(QCoreApplication::applicationDirPath());
-    if (exeDir.isDir() && exeDir.isWritable())
-        return baseFolder() + fileName;
+    const QFileInfo exeDir(programFolder);
+    if (exeDir.isDir() && exeDir.isWritable() && !isSystemFolder(exeDir.absoluteFilePath()))
+        return withTrailingSeparator(programFolder) + fileName;
     QString config = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
     if (config.isEmpty())
         config = QDir::homePath();

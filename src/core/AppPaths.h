@@ -14,6 +14,10 @@ QString baseFolder();
 // that folder is writable, otherwise in the user's configuration folder.
 // An override (the --ini option) wins.
 QString settingsFile();
+// The same for a program in programFolder, without the override. A program
+// installed into the system's folders (/usr/bin, /opt ...) always uses the
+// user's configuration folder: ~/.config/<application name>/ on Linux.
+QString settingsFileFor(const QString &programFolder);
 void setSettingsFileOverride(const QString &path);
 
 // Takes "--ini PATH" or "--ini=PATH" out of the arguments and sets the

@@ -1,0 +1,152 @@
+// The UI localiser: which language it picks, and that Qt's own dialogs speak
+// the language picked, switching both ways.
+#include <QtTest>
+
+#include <QAbstractButton>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTemporaryDir>
+
+#include "AppPaths.h"
+#include "IniFile.h"
+#include "Localiser.h"
+
+namespace {
+
+// Every caption a dialog shows: its title, labels and buttons.
+QStringList captions(QWidget *dialog)
+{
+    QStringList texts{dialog->windowTitle()};
+    for (const QLabel *label : dialog->findChildren<QLabel *>())
+        texts.append(label->text());
+    for (const QAbstractButton *button : dialog->findChildren<QAbstractButton *>())
+        texts.append(button->text());
+    return texts;
+}
+
+struct DialogTexts
+{
+    QString messageBoxYes;
+    QStringList colour;
+    QStringList font;
+    QStringList file;
+};
+
+DialogTexts qtDialogs()
+{
+    DialogTexts texts;
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Ferolith"), QStringLiteral("?"),
+                    QMessageBox::Yes | QMessageBox::No);
+    texts.messageBoxYes = box.button(QMessageBox::Yes)->text();
+    QColorDialog colour;
+    colour.setOption(QColorDialog::DontUseNativeDialog);
+    texts.colour = captions(&colour);
+    QFontDialog font;
+    font.setOption(QFontDialog::DontUseNativeDialog);
+    texts.font = captions(&font);
+    QFileDialog file;
+    file.setOption(QFileDialog::DontUseNativeDialog);
+    texts.file = captions(&file);
+    return texts;
+}
+
+} // namespace
+
+class TestLocaliser : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanupTestCase();
+    void choosesFromSettingThenLocale_data();
+    void choosesFromSettingThenLocale();
+    void settingsFileOverridesTheSystem();
+    void qtDialogsFollowTheLanguage();
+};
+
+void TestLocaliser::cleanupTestCase()
+{
+    AppPaths::setSettingsFileOverride(QString());
+    Localiser::install(QStringLiteral("de"));
+}
+
+void TestLocaliser::choosesFromSettingThenLocale_data()
+{
+    QTest::addColumn<QString>("setting");
+    QTest::addColumn<QStringList>("uiLanguages");
+    QTest::addColumn<QString>("expected");
+
+    const QStringList german{QStringLiteral("de-DE"), QStringLiteral("de-Latn-DE"), QStringLiteral("de")};
+    const QStringList french{QStringLiteral("fr-FR"), QStringLiteral("fr")};
+    QTest::newRow("German system") << QString() << german << "de";
+    QTest::newRow("Austrian system") << QString() << QStringList{QStringLiteral("de-AT")} << "de";
+    QTest::newRow("British system") << QString() << QStringList{QStringLiteral("en-GB")} << "en";
+    QTest::newRow("underscore form") << QString() << QStringList{QStringLiteral("en_US")} << "en";
+    QTest::newRow("other language reads English") << QString() << french << "en";
+    QTest::newRow("second preference shipped")
+        << QString() << QStringList{QStringLiteral("fr"), QStringLiteral("de-CH")} << "de";
+    QTest::newRow("neutral locale keeps the source") << QString() << QStringList{QStringLiteral("C")} << "de";
+    QTest::newRow("no preference") << QString() << QStringList() << "de";
+    QTest::newRow("setting English on German system") << "en" << german << "en";
+    QTest::newRow("setting German on French system") << "de" << french << "de";
+    QTest::newRow("setting as typed by hand") << " EN " << german << "en";
+    QTest::newRow("unknown setting follows the system") << "fr" << german << "de";
+}
+
+void TestLocaliser::choosesFromSettingThenLocale()
+{
+    QFETCH(QString, setting);
+    QFETCH(QStringList, uiLanguages);
+    QFETCH(QString, expected);
+    QCOMPARE(Localiser::choose(setting, uiLanguages), expected);
+}
+
+void TestLocaliser::settingsFileOverridesTheSystem()
+{
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString ini = dir.filePath(QStringLiteral("ferolith.ini"));
+    AppPaths::setSettingsFileOverride(ini);
+
+    // The key sits among the other settings, spelled as a user may type it.
+    QVERIFY(Profile::writeString(ini, QStringLiteral("Configuration"), QStringLiteral("GridStep"), QStringLiteral("8")));
+    QVERIFY(Profile::writeString(ini, QStringLiteral("configuration"), QStringLiteral("SPRACHE"), QStringLiteral("en")));
+    QCOMPARE(Localiser::activate(), QStringLiteral("en"));
+    QCOMPARE(Localiser::current(), QStringLiteral("en"));
+    QCOMPARE(QMessageBox(QMessageBox::Question, QString(), QString(), QMessageBox::Yes).button(QMessageBox::Yes)->text(),
+             QStringLiteral("&Yes"));
+
+    QVERIFY(Profile::writeString(ini, QStringLiteral("Configuration"), QStringLiteral("Sprache"), QStringLiteral("de")));
+    QCOMPARE(Localiser::activate(), QStringLiteral("de"));
+    QCOMPARE(QMessageBox(QMessageBox::Question, QString(), QString(), QMessageBox::Yes).button(QMessageBox::Yes)->text(),
+             QStringLiteral("&Ja"));
+}
+
+void TestLocaliser::qtDialogsFollowTheLanguage()
+{
+    // German twice in a row, then English and back: each switch replaces
+    // the catalogues installed before rather than stacking them.
+    for (const QString &language : {QStringLiteral("de"), QStringLiteral("de"), QStringLiteral("en"), QStringLiteral("de")}) {
+        QVERIFY2(Localiser::install(language), qPrintable(language));
+        const DialogTexts texts = qtDialogs();
+        if (language == QLatin1String("de")) {
+            QCOMPARE(texts.messageBoxYes, QStringLiteral("&Ja"));
+            QVERIFY2(texts.colour.contains(QStringLiteral("Farbauswahl")), qPrintable(texts.colour.join(" | ")));
+            QVERIFY2(texts.colour.contains(QStringLiteral("&Rot:")), qPrintable(texts.colour.join(" | ")));
+            QVERIFY2(texts.font.contains(QStringLiteral("&Schriftart")), qPrintable(texts.font.join(" | ")));
+            QVERIFY2(texts.file.contains(QStringLiteral("Suchen in:")), qPrintable(texts.file.join(" | ")));
+        } else {
+            QCOMPARE(texts.messageBoxYes, QStringLiteral("&Yes"));
+            QVERIFY2(texts.colour.contains(QStringLiteral("Select Color")), qPrintable(texts.colour.join(" | ")));
+            QVERIFY2(texts.colour.contains(QStringLiteral("&Red:")), qPrintable(texts.colour.join(" | ")));
+            QVERIFY2(texts.font.contains(QStringLiteral("&Font")), qPrintable(texts.font.join(" | ")));
+            QVERIFY2(texts.file.contains(QStringLiteral("Look in:")), qPrintable(texts.file.join(" | ")));
+        }
+    }
+}
+
+QTEST_MAIN(TestLocaliser)
+#include "test_localiser.moc"
