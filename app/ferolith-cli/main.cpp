@@ -7,7 +7,6 @@
 
 #include "AppPaths.h"
 #include "CliCommands.h"
-#include "Localiser.h"
 #include "Version.h"
 
 namespace {
@@ -55,14 +54,9 @@ int main(int argc, char *argv[])
 
     QTextStream out(stdout);
     QTextStream err(stderr);
-    QStringList args = QApplication::arguments();
-    QString error;
-    if (!AppPaths::takeIniOption(args, &error)) {
-        err << "ferolith-cli: " << error << Qt::endl;
+    QStringList args;
+    if (!AppPaths::takeStartArguments("ferolith-cli", args))
         return 2;
-    }
-    args.removeFirst();
-    Localiser::activate();
 
     if (args.isEmpty()) {
         err << usage();

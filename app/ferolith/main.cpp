@@ -100,14 +100,10 @@ int main(int argc, char *argv[])
 
     QTextStream out(stdout);
     QTextStream err(stderr);
-    QStringList args = QApplication::arguments();
-    QString error;
-    if (!AppPaths::takeIniOption(args, &error)) {
-        err << "ferolith: " << error << Qt::endl;
+    QStringList args;
+    if (!AppPaths::takeStartArguments("ferolith", args))
         return 2;
-    }
-    args.removeFirst();
-    Localiser::activate();
+    QString error;
 
     QString screenshot;
     if (!takeScreenshotOption(args, screenshot, error)) {

@@ -1,9 +1,12 @@
 #include "AppPaths.h"
 
+#include "Localiser.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QTextStream>
 
 namespace {
 QString &overridePath()
@@ -108,6 +111,20 @@ bool takeIniOption(QStringList &arguments, QString *errorMessage)
             return true;
         }
     }
+    return true;
+}
+
+bool takeStartArguments(const char *program, QStringList &arguments)
+{
+    arguments = QCoreApplication::arguments();
+    QString error;
+    if (!takeIniOption(arguments, &error)) {
+        QTextStream(stderr) << program << ": " << error << Qt::endl;
+        return false;
+    }
+    if (!arguments.isEmpty())
+        arguments.removeFirst();
+    Localiser::activate();
     return true;
 }
 

@@ -26,4 +26,10 @@ bool takeIniOption(QStringList &arguments, QString *errorMessage = nullptr);
 
 QString withTrailingSeparator(const QString &folder);
 
+// The start of both programs: the application's arguments without the
+// program's own name and without "--ini" (which takes effect), and the
+// interface language chosen from the settings. False after a line on
+// standard error, "program: why", when --ini names no file.
+bool takeStartArguments(const char *program, QStringList &arguments);
+
 } // namespace AppPaths

@@ -34,7 +34,6 @@ private slots:
     void sizeFormCancelNeverComplains();
     void runSizeDialogSizesTheSelection();
 
-    void alignmentWindowShowsItsButtons();
     void alignmentButtonsAlignAlongTheirAxis();
     void alignmentButtonsWithoutMaskDoNothing();
 
@@ -309,35 +308,6 @@ void TestSmallDialogs::runSizeDialogSizesTheSelection()
 }
 
 // ---- TFormAlignment ----
-
-void TestSmallDialogs::alignmentWindowShowsItsButtons()
-{
-    TFormAlignment window;
-    QCOMPARE(window.windowTitle(), QStringLiteral("Ausrichtung"));
-    QVERIFY(window.windowFlags() & Qt::Tool);
-    const QList<std::tuple<const char *, QString, int, bool>> expected{
-        {"SBALeft", QStringLiteral("Linksbündig"), 1, false},
-        {"SBAHCenter", QStringLiteral("Horizontal zentrieren"), 2, false},
-        {"SBARight", QStringLiteral("Rechtsbündig"), 3, false},
-        {"SBSizeH", QStringLiteral("gleicher Abstand Horizontal"), 4, false},
-        {"SBHCenter", QStringLiteral("Horizontal ausrichten"), 5, false},
-        {"SBATop", QStringLiteral("Oben ausrichten"), 1, true},
-        {"SBAVCenter", QStringLiteral("Vertikal zentrierern"), 2, true},
-        {"SBABottom", QStringLiteral("Unten ausrichten"), 3, true},
-        {"SBSizeV", QStringLiteral("gleicher Abstand Vertikal"), 4, true},
-        {"SBVCenter", QStringLiteral("Vertikal ausrichten"), 5, true},
-    };
-    QCOMPARE(window.findChildren<QToolButton *>().size(), expected.size());
-    for (const auto &[name, hint, tag, vertical] : expected) {
-        auto *button = child<QToolButton>(&window, name);
-        QVERIFY2(button, name);
-        QCOMPARE(button->toolTip(), hint);
-        QCOMPARE(button->property("Tag").toInt(), tag);
-        QCOMPARE(button->property("Vertical").toBool(), vertical);
-        QVERIFY(button->autoRaise());
-        QVERIFY(!button->icon().isNull());
-    }
-}
 
 void TestSmallDialogs::alignmentButtonsAlignAlongTheirAxis()
 {

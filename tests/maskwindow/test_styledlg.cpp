@@ -64,45 +64,12 @@ class TestStyleDlg : public QObject
     Q_OBJECT
 
 private slots:
-    void layoutAndCaptions();
     void showFillsTheControlsWithoutWritingBack();
     void everyChangeGoesToTheControllerAtOnce();
     void edgeBoxesChangeOnlyTheirOwnBit();
     void colourButtonAndDoubleClickAskForAColour();
     void cancelKeepsTheNewStyleOnTheMask();
 };
-
-void TestStyleDlg::layoutAndCaptions()
-{
-    TChangeStyle dlg;
-    QCOMPARE(dlg.windowTitle(), QStringLiteral("Stile ändern"));
-    auto *borderStyle = child<QComboBox>(&dlg, "edBorderStyle");
-    QVERIFY(borderStyle);
-    QCOMPARE(borderStyle->count(), 7);
-    QCOMPARE(borderStyle->itemText(ebsNone), QStringLiteral("ebsNone"));
-    QCOMPARE(borderStyle->itemText(ebsOffice11), QStringLiteral("ebsOffice11"));
-    auto *buttonStyle = child<QComboBox>(&dlg, "edButtonViewStyle");
-    QCOMPARE(buttonStyle->count(), 7);
-    QCOMPARE(buttonStyle->itemText(btsHotFlat), QStringLiteral("btsHotFlat"));
-    auto *transparency = child<QComboBox>(&dlg, "ButtonTransparence");
-    QCOMPARE(transparency->count(), 5);
-    QCOMPARE(transparency->itemText(ebtHideUnselected), QStringLiteral("ebtHideUnselected"));
-    auto *color = child<QComboBox>(&dlg, "edBorderColor");
-    QCOMPARE(color->findText(QStringLiteral("clRed")) >= 0, true);
-    QVERIFY(!color->itemIcon(color->findText(QStringLiteral("clRed"))).isNull());
-    QStringList groups;
-    for (QGroupBox *g : dlg.findChildren<QGroupBox *>())
-        groups << g->title();
-    QCOMPARE(groups, (QStringList{"Rand", "Schalter", "Kanten", "Andere"}));
-    QStringList boxes;
-    for (const char *name : {"cbLeft", "cbTop", "cbRight", "cbBottom", "cbHotTrack", "cbShadow", "cbGradient"})
-        boxes << child<QCheckBox>(&dlg, name)->text();
-    QCOMPARE(boxes, (QStringList{"Links", "Oben", "Rechts", "Unten", "HotTrack", "Schatten", "Verlauf"}));
-    QStringList buttons;
-    for (QPushButton *b : dlg.findChildren<QPushButton *>())
-        buttons << b->text();
-    QCOMPARE(buttons, (QStringList{"...", "&OK", "&Abbrechen"}));
-}
 
 void TestStyleDlg::showFillsTheControlsWithoutWritingBack()
 {

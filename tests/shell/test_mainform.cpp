@@ -10,6 +10,7 @@
 #include "AppPaths.h"
 #include "TestSupport.h"
 #include "Version.h"
+#include "ControlKinds.h"
 #include "helper_shell.h"
 
 using namespace ShellTest;
@@ -276,31 +277,21 @@ void TestMainForm::paletteButtonsAreExclusive()
     QVERIFY(arrow);
     QVERIFY(arrow->isChecked());
 
-    // The tags are the control kinds of the mask files.
-    const struct
-    {
-        const char *name;
-        int tag;
-    } kinds[] = {{"dxBarBtnLabel", 1},     {"dxBarBtnEdit", 2},         {"dxBarBtnCombo", 3},
-                 {"dxBarBtnMemo", 4},      {"dxBarBtnCheckbox", 5},     {"dxBarBtnDBGrid", 6},
-                 {"dxBarBtnButton", 7},    {"dxBarBtnBevel", 8},        {"dxBarBtnPreview", 9},
-                 {"dxBarBtnDBLabel", 10},  {"dxBarBtnShape", 11},       {"dxBarBtnDBLockup", 12},
-                 {"dxBarBtnImage", 13},    {"dxBarBtnPageControl", 16}, {"dxBarPanel", 17},
-                 {"dxBarRadioButton", 18}, {"dxBarTreelist", 19},       {"dxBarStringgrid", 20}};
-    for (const auto &kind : kinds) {
-        QToolButton *b = button(kind.name);
-        QVERIFY2(b, kind.name);
-        QVERIFY2(!b->icon().isNull(), kind.name);
+    // Every kind's button, one at a time: down alone, the arrow up.
+    for (const TControlKind &kind : ControlKinds::all()) {
+        if (kind.code == TPaletteCode::None)
+            continue;
+        QToolButton *b = button(kind.paletteName);
+        QVERIFY2(b && !b->icon().isNull(), kind.paletteName);
         QTest::mouseClick(b, Qt::LeftButton);
-        QVERIFY2(b->isChecked(), kind.name);
+        QVERIFY2(b->isChecked(), kind.paletteName);
         QVERIFY(!arrow->isChecked());
-        QCOMPARE(b->defaultAction()->property("Tag").toInt(), kind.tag);
+        QCOMPARE(b->defaultAction()->property("Tag").toInt(), int(kind.code));
         int down = 0;
         for (const QToolButton *other : palette->findChildren<QToolButton *>())
             down += other->isChecked() ? 1 : 0;
         QCOMPARE(down, 1);
     }
-    QCOMPARE(button("dxBarBtnImage")->toolTip(), QStringLiteral("Bild einfügen"));
 
     // A button that is down stays down when clicked again; the arrow releases it.
     QToolButton *edit = button("dxBarBtnEdit");

@@ -96,3 +96,17 @@ QWidget *createSecond(const TClassInfo &info, QWidget *parent)
     return w;
 }
 
+
+int countPixels(const QImage &image, const std::function<bool(QColor)> &match)
+{
+    int n = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            n += match(image.pixelColor(x, y)) ? 1 : 0;
+    return n;
+}
+
+bool isReddish(QColor c)
+{
+    return c.red() > 120 && c.green() < 90 && c.blue() < 90;
+}

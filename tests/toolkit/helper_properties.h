@@ -2,11 +2,15 @@
 
 // Shared by the tests of the control classes: every published property
 // written through its descriptor and read back.
+#include <QColor>
 #include <QHash>
+#include <QImage>
 #include <QStringList>
 #include <QVariant>
 
 #include "PropInfo.h"
+
+#include <functional>
 
 class QWidget;
 
@@ -20,3 +24,7 @@ QHash<QString, QVariant> writeEveryProperty(QWidget *w, const QStringList &skip 
 // A control of the class as the second of two of its kind on parent, so
 // that its TabOrder can change.
 QWidget *createSecond(const TClassInfo &info, QWidget *parent);
+
+// Pixels of a rendered control that match, for checking what paint draws.
+int countPixels(const QImage &image, const std::function<bool(QColor)> &match);
+bool isReddish(QColor c);

@@ -2,6 +2,7 @@
 // aligned children, colours, automatic captions, loading state, and the
 // published property lists.
 #include <QtTest>
+#include <memory>
 
 #include "CommonProps.h"
 #include "Components.h"
@@ -248,6 +249,11 @@ void TestControlLayer::everyPropertyKeepsWhatIsWritten()
     // getter reads, and no property disturbs another.
     QWidget owner;
     for (const TClassInfo *info : ControlClasses::all()) {
+        // A fresh control holds the defaults its list declares (streams
+        // leave out what equals them).
+        std::unique_ptr<QWidget> fresh(info->create());
+        for (const TPropInfo &p : info->properties)
+            QVERIFY2(!p.defaultValue.isValid() || p.isDefault(fresh.get()), qPrintable(info->className + ": " + p.name));
         QWidget *w = createSecond(*info, &owner);
         // Indexes into pages, items and tabs depend on what there is; the
         // tests of those controls cover them.
@@ -265,15 +271,6 @@ void TestControlLayer::maskButtonAndDataLabelPublishTheirFields()
     QCOMPARE(button.Margin(), -1);
     QCOMPARE(button.FoundMask(), 0);
     QCOMPARE(button.Language(), 0);
-    const QStringList own = {"ZuweisMaske", "ZuweisFeld",    "ZuweisFeldEx", "IndexFeld",   "ProgExt",
-                             "SectionExt",  "FoundMask",     "Language",     "RunAs",       "RegelFeld",
-                             "RegelAusdruck", "RegelFarbe", "RegelZeile"};
-    QStringList published;
-    for (const TPropInfo &p : button.classInfo().properties)
-        if (own.contains(p.name))
-            published << p.name;
-    QCOMPARE(published, own); // all of them, in this order
-
     const TClassInfo &info = button.classInfo();
     info.property(QStringLiteral("RegelAusdruck"))->write(&button, QStringLiteral("Menge > 10"));
     info.property(QStringLiteral("RunAs"))->write(&button, true);

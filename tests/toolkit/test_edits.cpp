@@ -13,28 +13,6 @@
 
 namespace {
 
-const QList<const TClassInfo *> &editClasses()
-{
-    static const QList<const TClassInfo *> classes = {
-        &TcxTextEdit::staticClassInfo(), &TcxComboBox::staticClassInfo(), &TcxDBPopupEdit::staticClassInfo(),
-        &TcxMemo::staticClassInfo(), &TcxDBCheckBox::staticClassInfo()};
-    return classes;
-}
-
-int countPixels(const QImage &image, const std::function<bool(QColor)> &match)
-{
-    int n = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            n += match(image.pixelColor(x, y)) ? 1 : 0;
-    return n;
-}
-
-bool isReddish(QColor c)
-{
-    return c.red() > 120 && c.green() < 90 && c.blue() < 90;
-}
-
 } // namespace
 
 class TestEdits : public QObject
@@ -42,8 +20,6 @@ class TestEdits : public QObject
     Q_OBJECT
 
 private slots:
-    void classesAreNamedAndShowTheirNames();
-    void freshControlsHoldTheirDefaults();
     void everyPropertyRoundTrips();
     void charCaseConvertsTypedAndExistingText();
     void maxLengthLimitsTheUserOnly();
@@ -54,59 +30,6 @@ private slots:
     void designingTakesNoFocusAndNoInput();
     void colorAndFontReachThePaint();
 };
-
-void TestEdits::classesAreNamedAndShowTheirNames()
-{
-    const QStringList names = {"TcxTextEdit", "TcxComboBox", "TcxDBPopupEdit", "TcxMemo", "TcxDBCheckBox"};
-    QWidget owner;
-    for (int i = 0; i < editClasses().size(); ++i) {
-        const TClassInfo *info = editClasses().at(i);
-        QCOMPARE(info->className, names.at(i));
-        QWidget *w = info->create();
-        QVERIFY(w);
-        w->setParent(&owner);
-        QVERIFY(info->windowed);
-        QVERIFY(!info->acceptsControls);
-        // A new control shows its name, and a rename while it still does.
-        const QString name = names.at(i).mid(1) + QLatin1Char('1');
-        w->setObjectName(name);
-        QCOMPARE(TControl::from(w)->Caption(), name);
-        w->setObjectName(name + QLatin1Char('0'));
-        QCOMPARE(TControl::from(w)->Caption(), name + QLatin1Char('0'));
-        // Every common attribute is published.
-        for (const char *common : {"Left", "Top", "Width", "Height", "Align", "Color", "Font", "ParentFont",
-                                   "TabOrder", "TabStop", "Tag", "Hint", "ShowHint", "HelpKeyword", "Visible",
-                                   "Enabled"})
-            QVERIFY2(info->property(QString::fromLatin1(common)), qPrintable(info->className + " lacks " + common));
-    }
-    QCOMPARE(TcxMemo().Lines(), QStringList());
-}
-
-void TestEdits::freshControlsHoldTheirDefaults()
-{
-    QWidget owner;
-    for (const TClassInfo *info : editClasses()) {
-        std::unique_ptr<QWidget> w(info->create());
-        w->setParent(&owner);
-        for (const TPropInfo &p : info->properties) {
-            if (p.defaultValue.isValid())
-                QVERIFY2(p.isDefault(w.get()), qPrintable(info->className + ": " + describe(p, p.read(w.get()))));
-        }
-        if (info != &TcxDBCheckBox::staticClassInfo())
-            QCOMPARE(TControl::from(w.get())->Color(), Colors::clWindow);
-    }
-    QCOMPARE(TcxTextEdit().size(), QSize(121, 21));
-    QCOMPARE(TcxComboBox().size(), QSize(145, 21));
-    QCOMPARE(TcxDBPopupEdit().size(), QSize(145, 21));
-    QCOMPARE(TcxMemo().size(), QSize(185, 89));
-    TcxDBCheckBox box;
-    QCOMPARE(box.size(), QSize(121, 21));
-    QCOMPARE(box.ValueChecked(), QStringLiteral("Ja"));
-    QCOMPARE(box.ValueUnchecked(), QStringLiteral("Nein"));
-    QVERIFY(box.ParentColor());
-    QVERIFY(!box.autoFillBackground());
-    QVERIFY(TcxMemo().WordWrap());
-}
 
 void TestEdits::everyPropertyRoundTrips()
 {

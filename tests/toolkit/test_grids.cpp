@@ -13,27 +13,6 @@
 
 namespace {
 
-const QList<const TClassInfo *> &gridClasses()
-{
-    static const QList<const TClassInfo *> classes = {
-        &TDBGrid::staticClassInfo(), &TcxDBTreeList::staticClassInfo(), &TStringGrid::staticClassInfo()};
-    return classes;
-}
-
-bool isReddish(QColor c)
-{
-    return c.red() > 120 && c.green() < 90 && c.blue() < 90;
-}
-
-int countPixels(const QImage &image, const std::function<bool(QColor)> &match)
-{
-    int n = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            n += match(image.pixelColor(x, y)) ? 1 : 0;
-    return n;
-}
-
 // The colour in the middle of a cell as the grid paints it.
 QColor cellColor(QTableWidget *grid, int row, int column)
 {
@@ -66,7 +45,6 @@ class TestGrids : public QObject
     Q_OBJECT
 
 private slots:
-    void classesAndFreshState();
     void everyPropertyRoundTrips();
     void dbGridColumnsBuildTheHeader();
     void titleFontStylesTheHeaderOnly();
@@ -77,48 +55,6 @@ private slots:
     void designingTakesNoFocusAndNoInput();
     void colorAndFontReachThePaint();
 };
-
-void TestGrids::classesAndFreshState()
-{
-    const QStringList names = {"TDBGrid", "TcxDBTreeList", "TStringGrid"};
-    const QList<QSize> sizes = {QSize(320, 120), QSize(250, 150), QSize(320, 120)};
-    QWidget owner;
-    for (int i = 0; i < gridClasses().size(); ++i) {
-        const TClassInfo *info = gridClasses().at(i);
-        QCOMPARE(info->className, names.at(i));
-        QWidget *w = info->create();
-        QVERIFY(w);
-        w->setParent(&owner);
-        QVERIFY(info->windowed);
-        QVERIFY(!info->acceptsControls);
-        QCOMPARE(w->size(), sizes.at(i));
-        QCOMPARE(TControl::from(w)->Color(), Colors::clWindow);
-        for (const TPropInfo &p : info->properties) {
-            if (p.defaultValue.isValid())
-                QVERIFY2(p.isDefault(w), qPrintable(info->className + ": " + describe(p, p.read(w))));
-        }
-        for (const char *common : {"Left", "Top", "Width", "Height", "Align", "Color", "Font", "ParentFont",
-                                   "TabOrder", "TabStop", "Tag", "Hint", "ShowHint", "HelpKeyword", "Visible",
-                                   "Enabled"})
-            QVERIFY2(info->property(QString::fromLatin1(common)), qPrintable(info->className + " lacks " + common));
-        // A grid has no caption to follow its name.
-        const QVariant columns = info->property(QStringLiteral("Width"))->read(w);
-        w->setObjectName(names.at(i).mid(1) + QLatin1Char('1'));
-        QCOMPARE(info->property(QStringLiteral("Width"))->read(w), columns);
-    }
-    TDBGrid grid;
-    QCOMPARE(grid.columnCount(), 0);
-    QCOMPARE(grid.rowCount(), 0);
-    TcxDBTreeList tree;
-    QCOMPARE(tree.KeyField(), QStringLiteral("QXID"));
-    QCOMPARE(tree.ParentField(), QStringLiteral("QXParent"));
-    QCOMPARE(tree.Columns(), QStringList{QStringLiteral("Spalte=100")});
-    TStringGrid strings;
-    QCOMPARE(strings.columnCount(), 5);
-    QCOMPARE(strings.rowCount(), 5);
-    QCOMPARE(strings.columnWidth(3), 64);
-    QCOMPARE(strings.rowHeight(3), 24);
-}
 
 void TestGrids::everyPropertyRoundTrips()
 {
