@@ -97,6 +97,14 @@ int dump(const QStringList &args, QTextStream &out, QTextStream &err)
     return 0;
 }
 
+int withMask(const QString &file, QTextStream &err, const std::function<int(const TMaskDocumentData &)> &use)
+{
+    Loaded l = load(file, err);
+    if (!l.mask)
+        return 1;
+    return use(TMaskDocumentData{l.mask->Tabelle(), l.mask->TableSettings(), l.mask->designSurface()});
+}
+
 int render(const QStringList &args, QTextStream &out, QTextStream &err)
 {
     if (!expectArgs(args, 2, "render EIN.dbm AUS.png", err))

@@ -2,6 +2,19 @@
 
 #include <QStringList>
 #include <QTextStream>
+#include <functional>
+
+#include "TableDescription.h"
+
+class QWidget;
+
+// What the database commands need of a loaded mask.
+struct TMaskDocumentData
+{
+    QString table;           // the mask's table
+    TTableSettings settings; // its table description, as loading read it
+    QWidget *surface = nullptr; // the design surface with the mask's controls
+};
 
 // The commands of the batch tool. Each returns the process exit code and
 // writes failures as one line to err.
@@ -10,5 +23,9 @@ namespace CliCommands {
 int roundtrip(const QStringList &args, QTextStream &out, QTextStream &err);
 int dump(const QStringList &args, QTextStream &out, QTextStream &err);
 int render(const QStringList &args, QTextStream &out, QTextStream &err);
+
+// Loads a mask and hands it to use; returns use's exit code, or 1 when the
+// mask cannot be loaded (the reason is on err).
+int withMask(const QString &file, QTextStream &err, const std::function<int(const TMaskDocumentData &)> &use);
 
 } // namespace CliCommands

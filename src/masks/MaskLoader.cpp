@@ -9,6 +9,7 @@
 #include "IniFile.h"
 #include "MaskReader.h"
 #include "Maske.h"
+#include "TableDescription.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -143,27 +144,7 @@ namespace MaskLoader {
 
 void LoadTableSettings(TMaske *mask, const QString &databaseFolder)
 {
-    TTableSettings settings;
-    if (!mask->Tabelle().isEmpty()) {
-        // The table generator writes ".ini"; older folders hold ".Ini".
-        QString file = databaseFolder + mask->Tabelle() + QStringLiteral(".Ini");
-        if (!QFileInfo::exists(file))
-            file = databaseFolder + mask->Tabelle() + QStringLiteral(".ini");
-        TMemIniFile ini;
-        if (QFileInfo(file).isFile() && ini.load(file)) {
-            settings.CadPath = ini.readString(kDatenbank, QStringLiteral("CadPath"), QString());
-            if (!settings.CadPath.isEmpty() && !settings.CadPath.endsWith(QLatin1Char('/'))
-                && !settings.CadPath.endsWith(QLatin1Char('\\')))
-                settings.CadPath += QDir::separator();
-            settings.Index = ini.readString(kDatenbank, QStringLiteral("Index"), QString());
-            settings.Dateizaehler = ini.readString(kDatenbank, QStringLiteral("Dateizaehler"), QString());
-            settings.Fokus = ini.readString(kDatenbank, QStringLiteral("Fokus"), QString());
-            settings.Felder = ini.readString(kDatenbank, QStringLiteral("Felder"), QString());
-            settings.AutoFill = ini.readSectionValues(QStringLiteral("AutoFill"));
-            settings.Default = ini.readSectionValues(QStringLiteral("Default"));
-        }
-    }
-    mask->setTableSettings(settings);
+    mask->setTableSettings(TableDescription::read(databaseFolder, mask->Tabelle()));
 }
 
 TMaske *LoadMask(TMaskLoaderHost &host, const QString &fileName, QString *errorMessage)

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "TableDescription.h"
+
 class QCloseEvent;
 class TAdvOfficePage;
 class TAdvOfficePager;
@@ -13,18 +15,6 @@ class TMaskHost;
 struct TDesignMessage;
 class TcxEditStyleController;
 class TFormDesigner;
-
-// What the loader reads from the table settings file of the mask's table.
-struct TTableSettings
-{
-    QString CadPath; // ends with a separator when set
-    QString Index;
-    QString Dateizaehler;
-    QString Fokus;
-    QString Felder;
-    QStringList AutoFill;
-    QStringList Default;
-};
 
 // A mask window: one data-entry screen inside the main window. The caption is
 // the file name part of Path(); the main window sets both.
