@@ -66,6 +66,8 @@ bool write(const QString &databaseFolder, const QString &table, const TTableSett
     ini.writeString(kDatenbank, QStringLiteral("Index"), settings.Index);
     writeEntries(ini, kDefault, settings.Default);
     writeEntries(ini, kAutoFill, settings.AutoFill);
+    // In server mode nothing else has made the folder yet.
+    QDir().mkpath(databaseFolder);
     return ini.save(fileName(databaseFolder, table), errorMessage);
 }
 

@@ -149,7 +149,12 @@ QString TPostgresEngine::columnType(const TFieldDef &field) const
 
 bool TPostgresEngine::createTable(const QString &table, const TDataDictionary &dictionary, QString *errorMessage)
 {
-    if (!dictionary.CaseInsensitiveKeys.isEmpty()
+    const bool haveCollation =
+        scalar(QStringLiteral("SELECT 1 FROM pg_collation WHERE collname = ? AND collnamespace = "
+                              "current_schema()::regnamespace"),
+               {collationName()})
+            .isValid();
+    if (!dictionary.CaseInsensitiveKeys.isEmpty() && !haveCollation
         && !exec(QStringLiteral("CREATE COLLATION IF NOT EXISTS ") + q(collationName())
                      + QStringLiteral(" (provider = icu, locale = 'de-DE-u-ks-level2', deterministic = false)"),
                  errorMessage))
