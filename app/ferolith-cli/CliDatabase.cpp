@@ -34,7 +34,7 @@ public:
         m_err << plain << Qt::endl;
         if (!(buttons & mbYes))
             return mrOk;
-        const bool dataQuestion = text.contains(QLatin1String("enthält bereits Daten"));
+        const bool dataQuestion = text.contains(QStringLiteral("enthält bereits Daten"));
         const TModalResult answer = dataQuestion && m_keepData ? mrYes : mrNo;
         m_err << (answer == mrYes ? "→ Ja" : "→ Nein") << Qt::endl;
         return answer;
