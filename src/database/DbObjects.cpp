@@ -124,7 +124,9 @@ bool TnxDatabase::openLocal(QString *errorMessage)
         return false;
     }
     // Opening alone reads nothing; a file that is no database shows here.
+    // A conversion's pages stay in memory rather than spilling mid-transaction.
     QSqlQuery probe(m_db);
+    probe.exec(QStringLiteral("PRAGMA cache_size = -65536"));
     if (!probe.exec(QStringLiteral("SELECT count(*) FROM sqlite_master"))) {
         setError(errorMessage, probe.lastError().text().trimmed());
         return false;

@@ -1,6 +1,7 @@
 #include "PostgresEngine.h"
 
 #include <QCryptographicHash>
+#include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <limits>
@@ -284,7 +285,12 @@ QString TPostgresEngine::convertExpression(const TColumnInfo &from, const TField
     const QString type = columnType(to);
     QString valid;
     QString expr;
-    if (from.Type == type) {
+    static const QRegularExpression bounded(QStringLiteral("^character varying\\((\\d+)\\)$"));
+    const QRegularExpressionMatch m = bounded.match(from.Type);
+    // A text that fits as it is: a longer bounded text or an unbounded one.
+    const bool widens = (to.Type == TFieldType::nxtShortString && m.hasMatch() && m.captured(1).toInt() <= to.Units)
+        || ((to.Type == TFieldType::nxtNullString || to.Type == TFieldType::nxtBlobMemo) && f == TValueFamily::Text);
+    if (from.Type == type || widens) {
         expr = v;
     } else {
         switch (to.Type) {
@@ -405,16 +411,15 @@ bool TPostgresEngine::copyRows(const QString &from, const QString &to, const TCo
         + QStringLiteral(" WHERE ");
     const QString validity = plan.Validity.isEmpty() ? QString() : QStringLiteral(" AND (") + plan.Validity + QLatin1Char(')');
     QSqlQuery size(m_db);
-    if (!size.exec(QStringLiteral("SELECT pg_relation_size(to_regclass(%1)) / current_setting('block_size')::bigint, "
-                                  "(SELECT count(*) FROM %2)")
-                       .arg(lit(q(from)), q(from)))
+    if (!size.exec(QStringLiteral("SELECT pg_relation_size(to_regclass(%1)) / current_setting('block_size')::bigint")
+                       .arg(lit(q(from))))
         || !size.next()) {
         if (errorMessage)
             *errorMessage = size.lastError().text().trimmed();
         return false;
     }
     const qint64 pages = size.value(0).toLongLong();
-    const qint64 rows = size.value(1).toLongLong();
+    const qint64 rows = plan.SourceRows >= 0 ? plan.SourceRows : recordCount(from);
     // Parts by page ranges of the physical rows, about 20000 rows each: the
     // server scans just those pages, and the gauge moves in between.
     const qint64 perPart = rows > 0 ? qMax<qint64>(1, pages * 20000 / rows) : pages + 1;

@@ -28,6 +28,7 @@ struct TCopyPlan
     QStringList Expressions;   // one per column
     QString Validity;          // true for a row that converts; empty: every row does
     QStringList KeyColumns;    // quoted source columns that name a row in messages
+    qint64 SourceRows = -1;    // the old table's rows, when known
 };
 
 // The engine-specific half of the database layer: column types, keywords,

@@ -1,5 +1,6 @@
 #include "SqliteEngine.h"
 
+#include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <limits>
@@ -48,6 +49,16 @@ IntRange rangeOf(TFieldType type)
     default:
         return {std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()};
     }
+}
+// A text that fits as it is: a longer bounded text or an unbounded one.
+bool widens(const TColumnInfo &from, const TFieldDef &to)
+{
+    static const QRegularExpression bounded(QStringLiteral("^VARCHAR\\((\\d+)\\)$"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch m = bounded.match(from.Type);
+    if (to.Type == TFieldType::nxtNullString || to.Type == TFieldType::nxtBlobMemo)
+        return from.Family == TValueFamily::Text;
+    return to.Type == TFieldType::nxtShortString && m.hasMatch() && m.captured(1).toInt() <= to.Units;
 }
 } // namespace
 
@@ -329,7 +340,7 @@ QString TSqliteEngine::convertExpression(const TColumnInfo &from, const TFieldDe
     const QString v = q(from.Name);
     const QString target = columnType(to);
     validity->clear();
-    if (from.Type.compare(target, Qt::CaseInsensitive) == 0)
+    if (from.Type.compare(target, Qt::CaseInsensitive) == 0 || widens(from, to))
         return v;
     const QString s = QStringLiteral("trim(%1)").arg(v);
     QString valid;

@@ -99,6 +99,7 @@ bool TTableGenerator::convert(TSqlEngine &engine, const QHash<QString, qint64> &
     const qint64 total = engine.recordCount(source, &error);
     if (total < 0)
         return fail(engine, error);
+    plan.SourceRows = total;
     if (OnProgress)
         OnProgress(0, total);
     if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
