@@ -8,6 +8,7 @@ packages=(
     qt6-base-dev qt6-base-dev-tools libgl-dev
     libqt6sql6-sqlite libqt6sql6-psql qt6-image-formats-plugins qt6-qpa-plugins
     fonts-dejavu-core fonts-liberation2 qt6-tools-dev
+    libsqlite3-dev postgresql
 )
 
 missing=()
