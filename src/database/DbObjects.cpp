@@ -206,7 +206,8 @@ bool OpenServerConnection(QSqlDatabase &db, int protocol, const QString &serverN
     db.setHostName(address.Host);
     db.setPort(address.Port);
     db.setDatabaseName(database);
-    db.setConnectOptions(QStringLiteral("connect_timeout=10"));
+    // The server's notices ("already exists, skipping") are no news to the user.
+    db.setConnectOptions(QStringLiteral("connect_timeout=10;options='-c client_min_messages=warning'"));
     if (!db.open()) {
         setError(errorMessage, db.lastError().text().trimmed());
         return false;
