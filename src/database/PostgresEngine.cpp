@@ -396,8 +396,9 @@ QString TPostgresEngine::convertExpression(const TColumnInfo &from, const TField
         if (!sequence.isEmpty())
             expr = QStringLiteral("COALESCE(%1, nextval(%2::regclass))").arg(expr, lit(sequence));
     } else if (isKey) {
-        // Key columns cannot be empty on this engine.
-        conditions << QStringLiteral("(%1) IS NOT NULL").arg(expr);
+        // Key columns cannot be empty on this engine. The source value is
+        // tested, not the converted one: the cast may only run on valid rows.
+        conditions << QStringLiteral("(%1) IS NOT NULL").arg(v);
     }
     *validity = conditions.join(QStringLiteral(" AND "));
     return expr;
