@@ -78,7 +78,7 @@ QVector<TFieldRow> firstVersion()
 QVector<TFieldRow> secondVersion()
 {
     return {fieldRow(QStringLiteral("Name"), QStringLiteral("A"), QStringLiteral("40"), true),
-            fieldRow(QStringLiteral("Code"), QStringLiteral("I")),
+            fieldRow(QStringLiteral("Code"), QStringLiteral("I"), QString(), true), // a key whose type changes
             fieldRow(QStringLiteral("Neu"), QStringLiteral("D"))};
 }
 
@@ -287,7 +287,7 @@ private Q_SLOTS:
             QCOMPARE(scalarOf(e, QStringLiteral("SELECT sum(\"Code\") FROM \"Alt\"")).toInt(), 3);
             QVERIFY(columnType(e, QStringLiteral("Alt"), QStringLiteral("Neu")).contains(QLatin1String("date"),
                                                                                        Qt::CaseInsensitive));
-            execOk(e, QStringLiteral("INSERT INTO \"Alt\" (\"Name\") VALUES ('neu')"));
+            execOk(e, QStringLiteral("INSERT INTO \"Alt\" (\"Name\", \"Code\") VALUES ('neu', 99)"));
             QCOMPARE(scalarOf(e, QStringLiteral("SELECT \"QXID\" FROM \"Alt\" WHERE \"Name\" = 'neu'")).toInt(), 4);
         }
         {
@@ -319,7 +319,7 @@ private Q_SLOTS:
             QVERIFY(!run.create(QStringLiteral("Fehler"), secondVersion()));
             const QString question = run.dialogs.messages.at(2).text;
             QVERIFY2(question.startsWith(QLatin1String("FEHLER")), qPrintable(question));
-            QVERIFY2(question.contains(QLatin1String("Name=nabc, QXID=2")), qPrintable(question));
+            QVERIFY2(question.contains(QLatin1String("Name=nabc, Code=abc, QXID=2")), qPrintable(question));
             QVERIFY(!question.contains(QLatin1String("n12")));
             TSqlEngine *e = run.engine();
             QCOMPARE(run.count(QStringLiteral("Fehler")), 3);
