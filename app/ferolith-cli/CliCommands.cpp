@@ -4,7 +4,7 @@
 
 #include "AppPaths.h"
 #include "FormDesigner.h"
-#include "IniFile.h"
+#include "ConnectionSettings.h"
 #include "MaskDocument.h"
 #include "MaskDump.h"
 #include "MaskLoader.h"
@@ -50,11 +50,7 @@ bool checkInput(const QString &file, QTextStream &err)
 // The folder of the table settings files, as the settings window would show it.
 QString databaseFolder()
 {
-    TMemIniFile ini;
-    ini.load(AppPaths::settingsFile());
-    QString path = ini.readString(QStringLiteral("Configuration"), QStringLiteral("DatenbankPfad"),
-                                  AppPaths::baseFolder() + QStringLiteral("DB") + QDir::separator());
-    return path.isEmpty() ? path : AppPaths::withTrailingSeparator(path);
+    return TConnectionSettings::load(AppPaths::settingsFile()).DBPfad;
 }
 
 // Loads the file into document; false after a message on err.
@@ -100,6 +96,14 @@ int dump(const QStringList &args, QTextStream &out, QTextStream &err)
     out << QString::fromUtf8(QJsonDocument(MaskDump::MaskToJson(document)).toJson(QJsonDocument::Indented));
     out.flush();
     return 0;
+}
+
+int withMask(const QString &file, QTextStream &err, const std::function<int(const TMaskDocument &)> &use)
+{
+    TMaskDocument document;
+    if (!load(document, file, err))
+        return 1;
+    return use(document);
 }
 
 int render(const QStringList &args, QTextStream &out, QTextStream &err)

@@ -7,6 +7,7 @@
 
 #include "AppPaths.h"
 #include "CliCommands.h"
+#include "CliDatabase.h"
 #include "Version.h"
 
 namespace {
@@ -22,6 +23,11 @@ QString usage()
         "  roundtrip EIN.dbm AUS.dbm   Maske laden und wie \"Speichern\" wieder schreiben\n"
         "  dump EIN.dbm                Maske als JSON-Objekt ausgeben\n"
         "  render EIN.dbm AUS.png      Maske im Run Mode als PNG-Bild speichern\n"
+        "  create-table EIN.dbm [--keep-data|--drop-data]\n"
+        "                              Tabelle der Maske in der eingestellten Datenbank erzeugen;\n"
+        "                              vorhandene Daten übernehmen (Vorgabe) oder verwerfen\n"
+        "  servers                     Datenbankserver suchen (Verbindungstyp aus den Einstellungen)\n"
+        "  aliases SERVER              Datenbanken eines Servers auflisten\n"
         "\n"
         "Optionen:\n"
         "  -h, --help       diese Hilfe anzeigen\n"
@@ -77,6 +83,12 @@ int main(int argc, char *argv[])
         return CliCommands::dump(args, out, err);
     if (command == QLatin1String("render"))
         return CliCommands::render(args, out, err);
+    if (command == QLatin1String("create-table"))
+        return CliDatabase::createTable(args, out, err);
+    if (command == QLatin1String("servers"))
+        return CliDatabase::servers(args, out, err);
+    if (command == QLatin1String("aliases"))
+        return CliDatabase::aliases(args, out, err);
     err << "ferolith-cli: unbekannter Befehl „" << command << "“ (siehe --help)" << Qt::endl;
     return 2;
 }

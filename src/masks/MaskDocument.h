@@ -4,20 +4,10 @@
 #include <QStringList>
 #include <QWidget>
 
+#include "TableDescription.h"
+
 class TAdvOfficePage;
 class TcxEditStyleController;
-
-// What the loader reads from the table settings file of the mask's table.
-struct TTableSettings
-{
-    QString CadPath; // ends with a separator when set
-    QString Index;
-    QString Dateizaehler;
-    QString Fokus;
-    QString Felder;
-    QStringList AutoFill;
-    QStringList Default;
-};
 
 // One mask as its file holds it: the header values, the table settings, the
 // shared edit style and the controls. The document is the surface the

@@ -7,8 +7,9 @@
 #include "EditStyle.h"
 #include "FileNames.h"
 #include "IniFile.h"
-#include "MaskDocument.h"
 #include "ControlReader.h"
+#include "MaskDocument.h"
+#include "TableDescription.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -104,27 +105,7 @@ namespace MaskLoader {
 
 void LoadTableSettings(TMaskDocument &document, const QString &databaseFolder)
 {
-    TTableSettings settings;
-    if (!document.Tabelle().isEmpty()) {
-        // The table generator writes ".ini"; older folders hold ".Ini".
-        QString file = databaseFolder + document.Tabelle() + QStringLiteral(".Ini");
-        if (!QFileInfo::exists(file))
-            file = databaseFolder + document.Tabelle() + QStringLiteral(".ini");
-        TMemIniFile ini;
-        if (QFileInfo(file).isFile() && ini.load(file)) {
-            settings.CadPath = ini.readString(kDatenbank, QStringLiteral("CadPath"), QString());
-            if (!settings.CadPath.isEmpty() && !settings.CadPath.endsWith(QLatin1Char('/'))
-                && !settings.CadPath.endsWith(QLatin1Char('\\')))
-                settings.CadPath += QDir::separator();
-            settings.Index = ini.readString(kDatenbank, QStringLiteral("Index"), QString());
-            settings.Dateizaehler = ini.readString(kDatenbank, QStringLiteral("Dateizaehler"), QString());
-            settings.Fokus = ini.readString(kDatenbank, QStringLiteral("Fokus"), QString());
-            settings.Felder = ini.readString(kDatenbank, QStringLiteral("Felder"), QString());
-            settings.AutoFill = ini.readSectionValues(QStringLiteral("AutoFill"));
-            settings.Default = ini.readSectionValues(QStringLiteral("Default"));
-        }
-    }
-    document.setTableSettings(settings);
+    document.setTableSettings(TableDescription::read(databaseFolder, document.Tabelle()));
 }
 
 bool LoadMask(TMaskDocument &document, const QString &fileName, const QString &databaseFolder,

@@ -2,42 +2,20 @@
 #include "MaskWriter.h"
 
 #include "Components.h"
+#include "ControlWriter.h"
 #include "EditStyle.h"
 #include "FileNames.h"
 #include "IniFile.h"
 #include "IniFileAccess.h"
-#include "ControlWriter.h"
 #include "MaskDocument.h"
 #include "TextCodec.h"
+#include "WaitCursor.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 
 namespace {
-
-// The hourglass for the whole save, also when it fails.
-class WaitCursor
-{
-public:
-    WaitCursor()
-    {
-        if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
-            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-        else
-            m_active = false;
-    }
-    ~WaitCursor()
-    {
-        if (m_active)
-            QGuiApplication::restoreOverrideCursor();
-    }
-    WaitCursor(const WaitCursor &) = delete;
-    WaitCursor &operator=(const WaitCursor &) = delete;
-
-private:
-    bool m_active = true;
-};
 
 void writeHeader(const TMaskDocument *mask, TMemIniFile &ini)
 {
@@ -87,7 +65,7 @@ QByteArray MaskFileBytes(const TMaskDocument &document)
 
 bool SaveMask(const TMaskDocument &document, const QString &fileName, QString *errorMessage)
 {
-    WaitCursor wait;
+    TWaitCursor wait;
 
     // The previous file becomes the backup; an older backup makes way. A
     // backup file being saved under its own name keeps its content until

@@ -16,6 +16,7 @@
 #include <QToolButton>
 
 #include "AppPaths.h"
+#include "ConnectionSettings.h"
 #include "FormDesigner.h"
 #include "IniFile.h"
 #include "RegistryStore.h"
@@ -238,6 +239,28 @@ private Q_SLOTS:
         QCOMPARE(child<QComboBox>(w, "DBServerName")->currentText(), QStringLiteral("nexus01"));
         QVERIFY(!child<QComboBox>(w, "DBServerName")->isEnabled());
         QVERIFY(!child<QPushButton>(w, "ScanAlias")->isEnabled());
+    }
+
+    void windowAndBatchToolReadTheSameConnection()
+    {
+        // The window hands out what the windowless reading gives.
+        writeRegistry({{"Installdir", "/opt/q"}, {"NXProtocol", 2}, {"NXConnection", true}, {"NXServer", "nexus01"},
+                       {"NXAlias", "Firma"}, {"LoginName", "reg"}});
+        writeIni(QStringLiteral("[Configuration]\r\nDatenbankPfad=/srv/db\r\nLoginName=anna\r\n"
+                                "ScanHosts=db1, /run/pg\r\n"));
+        RecordingDialogs dialogs;
+        TfrmSetup w;
+        const TConnectionSettings shown = w.ConnectionSettings();
+        const TConnectionSettings read = TConnectionSettings::load(m_iniPath);
+        QCOMPARE(shown.DBLocal, false);
+        QCOMPARE(shown.DBPfad, QStringLiteral("/srv/db") + QDir::separator());
+        QCOMPARE(shown.ScanHosts, (QStringList{"db1", "/run/pg"}));
+        for (const TConnectionSettings *s : {&shown, &read})
+            QCOMPARE(QStringList({QString::number(s->DBLocal), s->DBPfad, QString::number(s->ServerProtokol),
+                                  s->DBServerName, s->DBAlias, s->Userlogin, s->Userpass, s->ScanHosts.join(','),
+                                  s->InstallDir, QString::number(s->ScanTimeOut)}),
+                     QStringList({"0", shown.DBPfad, "2", "nexus01", "Firma", "anna", "", "db1,/run/pg", "/opt/q",
+                                  "1500"}));
     }
 
     void loginNameWinsAndOkWritesItToBothKeys()

@@ -2,9 +2,11 @@
 
 #include <QDialog>
 #include <QString>
+#include <QStringList>
 #include <functional>
 
 #include "Colors.h"
+#include "ConnectionSettings.h"
 
 class QButtonGroup;
 class QCheckBox;
@@ -48,6 +50,10 @@ public:
     void applyTo(TFormDesigner *designer) const;
 
     QString InstallDir() const { return m_installDir; }
+    // The connection values as the controls hold them now; the database
+    // layer reads them through this each time it connects or scans.
+    TConnectionSettings ConnectionSettings() const;
+    void setConnectionSettings(const TConnectionSettings &settings);
     // The database folder as the field shows it (ends with a separator).
     QString DatenbankPfad() const;
 
@@ -101,7 +107,6 @@ private:
 
     // SetupDialogLoad.cpp
     void loadSettings();
-    bool loadFromRegistry(QString *errorMessage);
     void loadFromIni(const TMemIniFile &ini);
 
     // SetupDialogSave.cpp
@@ -110,6 +115,7 @@ private:
     bool writeSettings(QString *errorMessage) const;
 
     QString m_installDir;
+    QStringList m_scanHosts; // not shown, kept for the scans
 
     QCheckBox *m_chbDisplayGrid = nullptr;
     QCheckBox *m_chbSnapToGrid = nullptr;

@@ -1,6 +1,7 @@
 #include "SetupDialog.h"
 
 #include "AppPaths.h"
+#include "ConnectionSettings.h"
 #include "FormDesigner.h"
 #include "IniFile.h"
 #include "IniFileAccess.h"
@@ -32,17 +33,7 @@ void TfrmSetup::okClicked()
 
 void TfrmSetup::storeToIni(TMemIniFile &ini) const
 {
-    ini.writeString(kSection, QStringLiteral("DatenbankPfad"), m_DBPfad->text());
-    ini.writeString(kSection, QStringLiteral("Userlogin"), m_Userlogin->text());
-    ini.writeString(kSection, QStringLiteral("Userpasswort"), m_Userpass->text());
-    ini.writeBool(kSection, QStringLiteral("DBConnect"), m_DBLocal->isChecked());
-    ini.writeInteger(kSection, QStringLiteral("Server_Protocol"), ServerProtokolIndex());
-    // Both generations of the login keys, so that older program versions
-    // reading "Userlogin"/"Userpasswort" see the same account.
-    ini.writeString(kSection, QStringLiteral("LoginName"), m_Userlogin->text());
-    ini.writeString(kSection, QStringLiteral("LoginPass"), m_Userpass->text());
-    ini.writeString(kSection, QStringLiteral("DBServer"), m_DBServerName->currentText());
-    ini.writeString(kSection, QStringLiteral("DBSAlias"), m_DBAlias->currentText());
+    ConnectionSettings().writeIni(ini);
     ini.writeBool(kSection, QStringLiteral("ShowHint"), m_chbShowHint->isChecked());
     ini.writeBool(kSection, QStringLiteral("SnapToGrid"), m_chbSnapToGrid->isChecked());
     ini.writeBool(kSection, QStringLiteral("DisplayGrip"), m_chbDisplayGrid->isChecked());

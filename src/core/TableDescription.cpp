@@ -1,0 +1,74 @@
+#include "TableDescription.h"
+
+#include "IniFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+const QString kDatenbank = QStringLiteral("Datenbank");
+const QString kDefault = QStringLiteral("Default");
+const QString kAutoFill = QStringLiteral("AutoFill");
+
+void writeEntries(TMemIniFile &ini, const QString &section, const QStringList &entries)
+{
+    for (const QString &entry : entries) {
+        const int eq = int(entry.indexOf(QLatin1Char('=')));
+        if (eq < 0)
+            ini.writeString(section, entry, QString());
+        else
+            ini.writeString(section, entry.left(eq), entry.mid(eq + 1));
+    }
+}
+} // namespace
+
+namespace TableDescription {
+
+QString fileName(const QString &databaseFolder, const QString &table)
+{
+    const QString older = databaseFolder + table + QStringLiteral(".Ini");
+    if (QFileInfo::exists(older))
+        return older;
+    return databaseFolder + table + QStringLiteral(".ini");
+}
+
+TTableSettings read(const QString &databaseFolder, const QString &table)
+{
+    TTableSettings settings;
+    if (table.isEmpty())
+        return settings;
+    const QString file = fileName(databaseFolder, table);
+    TMemIniFile ini;
+    if (!QFileInfo(file).isFile() || !ini.load(file))
+        return settings;
+    settings.CadPath = ini.readString(kDatenbank, QStringLiteral("CadPath"), QString());
+    if (!settings.CadPath.isEmpty() && !settings.CadPath.endsWith(QLatin1Char('/'))
+        && !settings.CadPath.endsWith(QLatin1Char('\\')))
+        settings.CadPath += QDir::separator();
+    settings.Index = ini.readString(kDatenbank, QStringLiteral("Index"), QString());
+    settings.Dateizaehler = ini.readString(kDatenbank, QStringLiteral("Dateizaehler"), QString());
+    settings.Fokus = ini.readString(kDatenbank, QStringLiteral("Fokus"), QString());
+    settings.Felder = ini.readString(kDatenbank, QStringLiteral("Felder"), QString());
+    settings.AutoFill = ini.readSectionValues(kAutoFill);
+    settings.Default = ini.readSectionValues(kDefault);
+    return settings;
+}
+
+bool write(const QString &databaseFolder, const QString &table, const TTableSettings &settings,
+           QString *errorMessage)
+{
+    // Written anew: entries removed from the mask must not linger in the file.
+    TMemIniFile ini;
+    ini.writeString(kDatenbank, QStringLiteral("CadPath"), settings.CadPath);
+    ini.writeString(kDatenbank, QStringLiteral("Dateizaehler"), settings.Dateizaehler);
+    ini.writeString(kDatenbank, QStringLiteral("Felder"), settings.Felder);
+    ini.writeString(kDatenbank, QStringLiteral("Fokus"), settings.Fokus);
+    ini.writeString(kDatenbank, QStringLiteral("Index"), settings.Index);
+    writeEntries(ini, kDefault, settings.Default);
+    writeEntries(ini, kAutoFill, settings.AutoFill);
+    // In server mode nothing else has made the folder yet.
+    QDir().mkpath(databaseFolder);
+    return ini.save(fileName(databaseFolder, table), errorMessage);
+}
+
+} // namespace TableDescription
