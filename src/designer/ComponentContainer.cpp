@@ -205,7 +205,7 @@ void TCustomFormDesigner::updateContainers()
         }
         TComponentContainer *c = TComponentContainer::CreateWithComponent(m_attached, component, this);
         m_containers << c;
-        watchWidget(c);
+        m_input.watch(c);
         c->show();
         created = true;
     }

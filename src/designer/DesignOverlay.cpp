@@ -6,6 +6,7 @@
 
 #include "Components.h"
 #include "DesignerWidgets.h"
+#include "DragSession.h"
 #include "FormDesigner.h"
 
 namespace {
@@ -33,22 +34,16 @@ struct Span
 };
 } // namespace
 
-TDesignOverlay::TDesignOverlay(TCustomFormDesigner *designer, QWidget *designControl)
-    : QWidget(designControl), m_designer(designer)
+TDesignOverlay::TDesignOverlay(const TCustomFormDesigner &designer, const TDragSession &session,
+                               QWidget *designControl)
+    : QWidget(designControl), m_designer(designer), m_session(session)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_NoSystemBackground);
     setFocusPolicy(Qt::NoFocus);
     setGeometry(designControl->rect());
     designControl->installEventFilter(this);
-    // The design control may go first and take the overlay with it; the
-    // engine must not hold on to it then. A QPointer would not do: the engine
-    // compares against the overlay while it is half destroyed, and a
-    // QPointer<TDesignOverlay> casts it to a type it no longer has.
-    connect(this, &QObject::destroyed, designer, [designer, this] {
-        if (designer->m_overlay == this)
-            designer->m_overlay = nullptr;
-    });
+    connect(&session, &TDragSession::changed, this, qOverload<>(&QWidget::update));
     raise();
     show();
 }
@@ -83,71 +78,66 @@ void TDesignOverlay::paintEvent(QPaintEvent *)
 void TDesignOverlay::paintMultiSelection(QPainter &p)
 {
     // One selected control has handle windows of its own; more get marks.
-    const TCustomFormDesigner &d = *m_designer;
+    const TCustomFormDesigner &d = m_designer;
     if (d.ControlCount() <= 1)
         return;
-    for (const QPointer<QWidget> &c : d.m_controls) {
-        if (!c || !c->parentWidget() || !c->isVisible())
+    const QWidget *surface = parentWidget();
+    for (QWidget *c : d.selection()) {
+        if (!c->parentWidget() || !c->isVisible())
             continue;
-        const QRect bounds(d.designOrigin(c->parentWidget()) + c->pos(), c->size());
-        const TGrabType type = d.IsLocked(c) ? gtLocked : gtMulti;
-        const QPixmap mark = d.grabBitmap(type);
-        for (int pos = gpLeftTop; pos <= gpRightBottom; ++pos) {
-            const QRect r = TGrabHandles::handleRect(d.m_grabMode, d.m_grabSize, bounds, TGrabPosition(pos));
-            if (mark.isNull())
-                p.fillRect(r, d.m_grabFill[type].toQColor());
-            else
-                p.drawPixmap(r, mark);
-        }
+        const QRect bounds(designOrigin(surface, c->parentWidget()) + c->pos(), c->size());
+        const QPixmap mark = d.grabBitmap(d.IsLocked(c) ? gtLocked : gtMulti);
+        for (int pos = gpLeftTop; pos <= gpRightBottom; ++pos)
+            p.drawPixmap(TGrabHandles::handleRect(d.GrabMode(), d.GrabSize(), bounds, TGrabPosition(pos)), mark);
     }
 }
 
 void TDesignOverlay::paintDragFrames(QPainter &p)
 {
-    const TCustomFormDesigner &d = *m_designer;
-    if (d.m_mouseAction == maSelecting) {
-        if (d.m_selectRect.isEmpty())
+    const TDragSession &s = m_session;
+    if (s.action() == maSelecting) {
+        if (s.selectRect().isEmpty())
             return;
         QPen pen(kFrameColor, 1, Qt::DotLine);
         p.setPen(pen);
         p.setBrush(Qt::NoBrush);
-        p.drawRect(d.m_selectRect.adjusted(0, 0, -1, -1));
+        p.drawRect(s.selectRect().adjusted(0, 0, -1, -1));
         return;
     }
     QPen pen(kFrameColor, 2);
     pen.setJoinStyle(Qt::MiterJoin);
     p.setPen(pen);
     p.setBrush(Qt::NoBrush);
-    if (d.m_mouseAction == maPlacing && d.m_dragStarted) {
-        drawFrame(p, d.m_placeRect);
+    if (s.action() == maPlacing && s.started()) {
+        drawFrame(p, s.placeRect());
         return;
     }
     // With DirectMove the controls themselves show where they go.
-    if (d.m_mouseAction != maDragging || !d.m_dragStarted || d.m_directMove)
+    if (s.action() != maDragging || !s.started() || m_designer.DirectMove())
         return;
-    for (int i = 0; i < d.m_dragRects.size() && i < d.m_dragControls.size(); ++i) {
-        const QWidget *c = d.m_dragControls.at(i);
-        if (c && c->parentWidget())
-            drawFrame(p, d.m_dragRects.at(i).translated(d.designOrigin(c->parentWidget())));
-    }
+    for (const TDragSession::Frame &f : s.frames())
+        if (f.control && f.control->parentWidget())
+            drawFrame(p, f.rect.translated(designOrigin(parentWidget(), f.control->parentWidget())));
 }
 
 void TDesignOverlay::paintAlignmentLines(QPainter &p)
 {
-    const TCustomFormDesigner &d = *m_designer;
-    if (d.m_mouseAction != maDragging || !d.m_dragStarted || !d.m_alignmentLines)
+    const TCustomFormDesigner &d = m_designer;
+    const TDragSession &s = m_session;
+    if (s.action() != maDragging || !s.started() || !d.AlignmentLines())
         return;
-    const QWidget *control = d.m_dragControls.value(0);
+    const QWidget *control = s.frames().isEmpty() ? nullptr : s.frames().first().control.data();
     const QWidget *parent = control ? control->parentWidget() : nullptr;
     if (!parent)
         return;
 
     // Siblings compare in their parent's coordinates; across the whole form
     // everything compares in the design control's.
-    const bool entire = d.m_alignmentEntireForm;
-    const bool moving = d.m_dragHandle == gpNone;
-    const QPoint parentOrigin = d.designOrigin(parent);
-    const QRect drag = entire ? d.m_dragRect.translated(parentOrigin) : d.m_dragRect;
+    const QWidget *surface = parentWidget();
+    const bool entire = d.AlignmentEntireForm();
+    const bool moving = s.handle() == gpNone;
+    const QPoint parentOrigin = designOrigin(surface, parent);
+    const QRect drag = entire ? s.dragRect().translated(parentOrigin) : s.dragRect();
     const QPoint toOverlay = entire ? QPoint() : parentOrigin;
     const int dragRight = drag.x() + drag.width(), dragBottom = drag.y() + drag.height();
 
@@ -160,9 +150,9 @@ void TDesignOverlay::paintAlignmentLines(QPainter &p)
         if (!wParent || !wParent->isVisible() || (!entire && wParent != parent))
             continue;
         // Controls that travel with the mouse would always match themselves.
-        if (d.m_directMove && moving && d.ControlIndex(w) >= 0)
+        if (d.DirectMove() && moving && d.ControlIndex(w) >= 0)
             continue;
-        const QRect b = entire ? w->geometry().translated(d.designOrigin(wParent)) : w->geometry();
+        const QRect b = entire ? w->geometry().translated(designOrigin(surface, wParent)) : w->geometry();
         const int right = b.x() + b.width(), bottom = b.y() + b.height();
         if (b.x() == drag.x())
             spans[0].add(b.y(), bottom);
@@ -176,9 +166,11 @@ void TDesignOverlay::paintAlignmentLines(QPainter &p)
 
     static const TLinePosition edges[4] = {lpLeft, lpTop, lpRight, lpBottom};
     const int at[4] = {drag.x(), drag.y(), dragRight, dragBottom};
-    const int width = std::max(1, d.m_alignmentLineWidth);
+    const TColor colors[4] = {d.AlignmentColorLeft(), d.AlignmentColorTop(), d.AlignmentColorRight(),
+                              d.AlignmentColorBottom()};
+    const int width = std::max(1, d.AlignmentLineWidth());
     for (int i = 0; i < 4; ++i) {
-        if (!(d.m_alignmentLines & edges[i]) || !spans[i].hit)
+        if (!(d.AlignmentLines() & edges[i]) || !spans[i].hit)
             continue;
         Span span = spans[i];
         const bool vertical = i == 0 || i == 2;
@@ -188,6 +180,6 @@ void TDesignOverlay::paintAlignmentLines(QPainter &p)
             span.add(drag.x(), dragRight);
         const QRect line = vertical ? QRect(at[i] - width / 2, span.from, width, span.to - span.from)
                                     : QRect(span.from, at[i] - width / 2, span.to - span.from, width);
-        p.fillRect(line.translated(toOverlay), d.m_alignmentColor[i].toQColor());
+        p.fillRect(line.translated(toOverlay), colors[i].toQColor());
     }
 }

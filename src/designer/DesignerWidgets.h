@@ -7,6 +7,7 @@
 #include "DesignerTypes.h"
 
 class TCustomFormDesigner;
+class TDragSession;
 
 // One small handle around the current control; a child of the control's
 // parent. A press on an enabled handle starts sizing.
@@ -64,14 +65,15 @@ private:
     bool m_visible = false;
 };
 
-// Drawn above the design control and everything on it: the drag frames, the
-// rubber band, the placing frame, the alignment lines and the marks of a
-// multiple selection. It takes no mouse input; erasing means repainting.
+// Drawn above the design control and everything on it: the frames of a
+// mouse action (read from its TDragSession), the alignment lines and the
+// marks of a multiple selection. It takes no mouse input; erasing means
+// repainting.
 class TDesignOverlay : public QWidget
 {
     Q_OBJECT
 public:
-    TDesignOverlay(TCustomFormDesigner *designer, QWidget *designControl);
+    TDesignOverlay(const TCustomFormDesigner &designer, const TDragSession &session, QWidget *designControl);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -82,5 +84,6 @@ private:
     void paintAlignmentLines(class QPainter &p);
     void paintMultiSelection(class QPainter &p);
 
-    TCustomFormDesigner *m_designer;
+    const TCustomFormDesigner &m_designer;
+    const TDragSession &m_session;
 };

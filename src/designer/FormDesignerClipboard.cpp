@@ -233,7 +233,7 @@ void TCustomFormDesigner::PasteFromClipboard()
 
     for (QWidget *w : tops) {
         if (m_active)
-            watchWidget(w);
+            m_input.watch(w);
         showIfVisible(w);
     }
     if (OnPasteComponent)
@@ -276,8 +276,8 @@ void TCustomFormDesigner::LoadComponentFromStream(QIODevice &stream, QWidget *co
             throw EFormDesigner(error);
         readError(error, false, true);
     }
-    if (m_active && isInDesignControl(component))
-        watchWidget(component);
+    if (m_active && m_input.isInDesignControl(component))
+        m_input.watch(component);
     UpdateGrabs();
     DoChange();
 }
@@ -371,7 +371,7 @@ void TCustomFormDesigner::readLayout(const QByteArray &bytes, const QString &wha
         fail(error, reported.contains(error));
     for (QWidget *w : tops) {
         if (m_active)
-            watchWidget(w);
+            m_input.watch(w);
         showIfVisible(w);
     }
     if (m_overlay)
@@ -566,7 +566,7 @@ void TCustomFormDesigner::LoadFromFile(const QString &fileName)
             continue;
         if (e.created) {
             if (m_active)
-                watchWidget(e.widget);
+                m_input.watch(e.widget);
             showIfVisible(e.widget);
         }
         if (OnLoadControl)

@@ -38,9 +38,9 @@ void TCustomFormDesigner::UpdateGrabs()
 {
     if (!m_active || !m_grabs)
         return;
-    m_controls.removeIf([](const QPointer<QWidget> &c) { return c.isNull(); });
+    m_selection.purge();
     QWidget *current = currentControl();
-    const bool show = m_controls.size() == 1 && current && !IsProtected(current);
+    const bool show = m_selection.count() == 1 && current && !IsProtected(current);
     m_grabs->Update(show ? current : nullptr, !show);
     if (m_overlay) {
         m_overlay->raise(); // stays above a control brought to the front
