@@ -130,7 +130,6 @@ void TestAlignPalette::menuSwitchesHintsAndStayOnTop()
     QVERIFY(!menu->isVisible());
     for (QToolButton *b : buttons)
         QVERIFY2(b->toolTip().isEmpty(), qPrintable(b->objectName()));
-    QCOMPARE(palette.options(), TAlignmentPaletteOptions(apStayOnTop));
     QCOMPARE(reported, QList<TAlignmentPaletteOptions>{apStayOnTop});
 
     menu = openMenu(&palette);
@@ -138,12 +137,10 @@ void TestAlignPalette::menuSwitchesHintsAndStayOnTop()
     QVERIFY(!menuAction(menu, QStringLiteral("Sho&w hints"))->isChecked());
     clickMenuItem(menu, QStringLiteral("Sho&w hints"));
     QCOMPARE(buttons[5]->toolTip(), QStringLiteral("Align tops"));
-    QCOMPARE(palette.options(), apStayOnTop | apShowHints);
 
     menu = openMenu(&palette);
     clickMenuItem(menu, QStringLiteral("&Stay on top"));
     QVERIFY(!palette.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-    QCOMPARE(palette.options(), TAlignmentPaletteOptions(apShowHints));
     QCOMPARE(reported.last(), TAlignmentPaletteOptions(apShowHints));
     // The flag change must not make the palette disappear.
     QVERIFY(palette.isVisible());
@@ -153,26 +150,21 @@ void TestAlignPalette::menuSwitchesHintsAndStayOnTop()
     clickMenuItem(menu, QStringLiteral("&Stay on top"));
     QVERIFY(palette.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     QVERIFY(palette.isVisible());
-    QCOMPARE(palette.options(), apStayOnTop | apShowHints);
     QCOMPARE(reported.size(), 4);
 }
 
 void TestAlignPalette::menuHidesThePalette()
 {
     TfrmAlignmentPalette palette;
-    int hidden = 0;
-    palette.onHide = [&hidden] { ++hidden; };
     QVERIFY(showAndWait(&palette));
     QMenu *menu = openMenu(&palette);
     QVERIFY(menu && menu->isVisible());
     clickMenuItem(menu, QStringLiteral("Hide"));
     QVERIFY(!palette.isVisible());
-    QCOMPARE(hidden, 1);
 
     QVERIFY(showAndWait(&palette));
     palette.close();
     QVERIFY(!palette.isVisible());
-    QCOMPARE(hidden, 2);
 }
 
 void TestAlignPalette::optionsFromTheEngine()
@@ -184,7 +176,6 @@ void TestAlignPalette::optionsFromTheEngine()
     const QList<QToolButton *> buttons = paletteButtons(&palette);
 
     palette.setOptions(apFlatButtons | apAutoShow);
-    QCOMPARE(palette.options(), apFlatButtons | apAutoShow);
     for (QToolButton *b : buttons) {
         QVERIFY(b->autoRaise());
         QVERIFY(b->toolTip().isEmpty());
