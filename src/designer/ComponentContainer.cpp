@@ -211,7 +211,7 @@ void TCustomFormDesigner::updateContainers()
     }
     // The overlay draws above everything on the design control.
     if (created && m_overlay)
-        m_overlay->raise();
+        m_overlay->keepOnTop();
     UpdateGrabs();
 }
 

@@ -2,6 +2,7 @@
 // (frames, rubber band, alignment lines, multi-selection marks) and lets
 // every mouse event through to the controls below.
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include "Components.h"
@@ -11,12 +12,6 @@
 
 namespace {
 const QColor kFrameColor(128, 128, 128);
-
-// Inside the rectangle, so a frame covers exactly the pixels of the control.
-void drawFrame(QPainter &p, const QRect &r)
-{
-    p.drawRect(QRectF(r).adjusted(1, 1, -1, -1));
-}
 
 // The extent along one edge that matching controls cover.
 struct Span
@@ -32,6 +27,20 @@ struct Span
         hit = true;
     }
 };
+
+// A frame covers the outer pixels of its rectangle only; so does its repaint.
+void updateOutline(QWidget *w, const QRect &r)
+{
+    constexpr int band = 3;
+    if (r.width() <= 2 * band || r.height() <= 2 * band) {
+        w->update(r.adjusted(-1, -1, 1, 1));
+        return;
+    }
+    w->update(QRect(r.left() - 1, r.top() - 1, r.width() + 2, band + 1));
+    w->update(QRect(r.left() - 1, r.bottom() - band + 1, r.width() + 2, band + 1));
+    w->update(QRect(r.left() - 1, r.top() + band, band + 1, r.height() - 2 * band));
+    w->update(QRect(r.right() - band + 1, r.top() + band, band + 1, r.height() - 2 * band));
+}
 } // namespace
 
 TDesignOverlay::TDesignOverlay(const TCustomFormDesigner &designer, const TDragSession &session,
@@ -43,9 +52,23 @@ TDesignOverlay::TDesignOverlay(const TCustomFormDesigner &designer, const TDragS
     setFocusPolicy(Qt::NoFocus);
     setGeometry(designControl->rect());
     designControl->installEventFilter(this);
-    connect(&session, &TDragSession::changed, this, qOverload<>(&QWidget::update));
+    connect(&session, &TDragSession::changed, this, &TDesignOverlay::refresh);
     raise();
     show();
+}
+
+void TDesignOverlay::keepOnTop()
+{
+    // Raising repaints the whole glass even where nothing moves.
+    QWidget *parent = parentWidget();
+    const QObjectList &siblings = parent ? parent->children() : QObjectList();
+    for (auto it = siblings.crbegin(); it != siblings.crend(); ++it) {
+        if (*it == this)
+            return;
+        if ((*it)->isWidgetType() && !static_cast<QWidget *>(*it)->isWindow())
+            break;
+    }
+    raise();
 }
 
 bool TDesignOverlay::eventFilter(QObject *watched, QEvent *event)
@@ -58,7 +81,7 @@ bool TDesignOverlay::eventFilter(QObject *watched, QEvent *event)
         case QEvent::ChildAdded:
             // New controls go on top; the overlay stays above them.
             if (static_cast<QChildEvent *>(event)->child() != this)
-                raise();
+                keepOnTop();
             break;
         default:
             break;
@@ -67,69 +90,108 @@ bool TDesignOverlay::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void TDesignOverlay::paintEvent(QPaintEvent *)
+void TDesignOverlay::refresh()
 {
-    QPainter p(this);
-    paintMultiSelection(p);
-    paintDragFrames(p);
-    paintAlignmentLines(p);
+    const QList<Mark> marks = multiSelectionMarks();
+    if (marks != m_marks) {
+        for (const Mark &m : std::as_const(m_marks))
+            update(m.rect);
+        for (const Mark &m : marks)
+            update(m.rect);
+        m_marks = marks;
+    }
+    const bool band = m_session.action() == maSelecting;
+    const QList<QRect> frames = dragFrames();
+    if (frames != m_frames || band != m_band) {
+        for (const QRect &r : std::as_const(m_frames))
+            updateOutline(this, r);
+        for (const QRect &r : frames)
+            updateOutline(this, r);
+        m_frames = frames;
+        m_band = band;
+    }
+    const QList<Line> lines = alignmentLines();
+    if (lines != m_lines) {
+        for (const Line &l : std::as_const(m_lines))
+            update(l.rect);
+        for (const Line &l : lines)
+            update(l.rect);
+        m_lines = lines;
+    }
 }
 
-void TDesignOverlay::paintMultiSelection(QPainter &p)
+void TDesignOverlay::paintEvent(QPaintEvent *event)
+{
+    QPainter p(this);
+    const QRect dirty = event->rect();
+    for (const Mark &m : std::as_const(m_marks))
+        if (m.rect.intersects(dirty))
+            p.drawPixmap(m.rect, m.look);
+    if (m_band) {
+        p.setPen(QPen(kFrameColor, 1, Qt::DotLine));
+        for (const QRect &r : std::as_const(m_frames))
+            p.drawRect(r.adjusted(0, 0, -1, -1));
+    } else {
+        QPen pen(kFrameColor, 2);
+        pen.setJoinStyle(Qt::MiterJoin);
+        p.setPen(pen);
+        // Inside the rectangle, so a frame covers exactly the pixels of the control.
+        for (const QRect &r : std::as_const(m_frames))
+            if (r.intersects(dirty))
+                p.drawRect(QRectF(r).adjusted(1, 1, -1, -1));
+    }
+    for (const Line &l : std::as_const(m_lines))
+        p.fillRect(l.rect, l.color);
+}
+
+QList<TDesignOverlay::Mark> TDesignOverlay::multiSelectionMarks() const
 {
     // One selected control has handle windows of its own; more get marks.
+    QList<Mark> marks;
     const TCustomFormDesigner &d = m_designer;
     if (d.ControlCount() <= 1)
-        return;
+        return marks;
     const QWidget *surface = parentWidget();
+    const QPixmap looks[2] = {d.grabBitmap(gtMulti), d.grabBitmap(gtLocked)};
     for (QWidget *c : d.selection()) {
         if (!c->parentWidget() || !c->isVisible())
             continue;
         const QRect bounds(designOrigin(surface, c->parentWidget()) + c->pos(), c->size());
-        const QPixmap mark = d.grabBitmap(d.IsLocked(c) ? gtLocked : gtMulti);
+        const QPixmap &look = looks[d.IsLocked(c) ? 1 : 0];
         for (int pos = gpLeftTop; pos <= gpRightBottom; ++pos)
-            p.drawPixmap(TGrabHandles::handleRect(d.GrabMode(), d.GrabSize(), bounds, TGrabPosition(pos)), mark);
+            marks.append({TGrabHandles::handleRect(d.GrabMode(), d.GrabSize(), bounds, TGrabPosition(pos)), look});
     }
+    return marks;
 }
 
-void TDesignOverlay::paintDragFrames(QPainter &p)
+QList<QRect> TDesignOverlay::dragFrames() const
 {
     const TDragSession &s = m_session;
-    if (s.action() == maSelecting) {
-        if (s.selectRect().isEmpty())
-            return;
-        QPen pen(kFrameColor, 1, Qt::DotLine);
-        p.setPen(pen);
-        p.setBrush(Qt::NoBrush);
-        p.drawRect(s.selectRect().adjusted(0, 0, -1, -1));
-        return;
-    }
-    QPen pen(kFrameColor, 2);
-    pen.setJoinStyle(Qt::MiterJoin);
-    p.setPen(pen);
-    p.setBrush(Qt::NoBrush);
-    if (s.action() == maPlacing && s.started()) {
-        drawFrame(p, s.placeRect());
-        return;
-    }
+    if (s.action() == maSelecting)
+        return s.selectRect().isEmpty() ? QList<QRect>() : QList<QRect>{s.selectRect()};
+    if (s.action() == maPlacing && s.started())
+        return {s.placeRect()};
     // With DirectMove the controls themselves show where they go.
+    QList<QRect> frames;
     if (s.action() != maDragging || !s.started() || m_designer.DirectMove())
-        return;
+        return frames;
     for (const TDragSession::Frame &f : s.frames())
         if (f.control && f.control->parentWidget())
-            drawFrame(p, f.rect.translated(designOrigin(parentWidget(), f.control->parentWidget())));
+            frames.append(f.rect.translated(designOrigin(parentWidget(), f.control->parentWidget())));
+    return frames;
 }
 
-void TDesignOverlay::paintAlignmentLines(QPainter &p)
+QList<TDesignOverlay::Line> TDesignOverlay::alignmentLines() const
 {
+    QList<Line> lines;
     const TCustomFormDesigner &d = m_designer;
     const TDragSession &s = m_session;
     if (s.action() != maDragging || !s.started() || !d.AlignmentLines())
-        return;
+        return lines;
     const QWidget *control = s.frames().isEmpty() ? nullptr : s.frames().first().control.data();
     const QWidget *parent = control ? control->parentWidget() : nullptr;
     if (!parent)
-        return;
+        return lines;
 
     // Siblings compare in their parent's coordinates; across the whole form
     // everything compares in the design control's.
@@ -180,6 +242,7 @@ void TDesignOverlay::paintAlignmentLines(QPainter &p)
             span.add(drag.x(), dragRight);
         const QRect line = vertical ? QRect(at[i] - width / 2, span.from, width, span.to - span.from)
                                     : QRect(span.from, at[i] - width / 2, span.to - span.from, width);
-        p.fillRect(line.translated(toOverlay), colors[i].toQColor());
+        lines.append({line.translated(toOverlay), colors[i].toQColor()});
     }
+    return lines;
 }

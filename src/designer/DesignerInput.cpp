@@ -257,7 +257,7 @@ bool TDesignerInput::process(QWidget *target, QEvent *event)
         if (target == m_designControl)
             for (const QPointer<QWidget> &w : std::as_const(m_excluded))
                 if (auto *overlay = qobject_cast<TDesignOverlay *>(w.data()))
-                    overlay->raise();
+                    overlay->keepOnTop();
         return false;
     }
     case QEvent::ContextMenu:

@@ -243,7 +243,7 @@ void TCustomFormDesigner::PasteFromClipboard()
     for (QWidget *w : tops)
         AddControl(w);
     if (m_overlay)
-        m_overlay->raise();
+        m_overlay->keepOnTop();
     UpdateGrabs();
     DoChange();
 }
@@ -375,7 +375,7 @@ void TCustomFormDesigner::readLayout(const QByteArray &bytes, const QString &wha
         showIfVisible(w);
     }
     if (m_overlay)
-        m_overlay->raise();
+        m_overlay->keepOnTop();
     UpdateGrabs();
     if (!tops.isEmpty())
         DoChange();
@@ -573,7 +573,7 @@ void TCustomFormDesigner::LoadFromFile(const QString &fileName)
             OnLoadControl(this, e.widget, ini);
     }
     if (m_overlay)
-        m_overlay->raise();
+        m_overlay->keepOnTop();
     UpdateGrabs();
     DoChange();
 }

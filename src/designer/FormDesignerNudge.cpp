@@ -60,7 +60,7 @@ void TCustomFormDesigner::moveSizeByKey(int key, TDesignerInput::KeyMode mode)
             continue;
         changed = true;
         if (m_overlay && ControlCount() > 1)
-            m_overlay->update();
+            m_overlay->refresh();
         UpdateGrabs();
         DoMoveSizeControl(c);
     }
