@@ -201,6 +201,15 @@ void TestClipboard::foreignClipboardContentPastesNothing()
     }
     QCOMPARE(changes, 0);
 
+    // A good component followed by garbage: all or nothing.
+    f.designer->AddControl(button);
+    f.designer->CopyToClipboard();
+    auto *mixed = new QMimeData;
+    mixed->setData(kFormat, clipboardBytes() + QByteArray("TPF0\x01", 5));
+    QGuiApplication::clipboard()->setMimeData(mixed);
+    f.designer->PasteFromClipboard();
+    QCOMPARE(Components::componentCount(&f.form), 1);
+
     // An unknown class: the handler may skip it and keep the rest.
     DesignForm other;
     auto *otherButton = other.add<TMaskBtn>(nullptr, {10, 10, 80, 25});

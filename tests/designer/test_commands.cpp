@@ -327,6 +327,8 @@ void TestCommands::sizeDialogTakesOnlyNumbers()
         width->setText(QStringLiteral("70"));
         clickRadio(child<QRadioButton>(d, "rgHeight3"));
         check(height->isEnabled() && width->isEnabled(), "height edit follows its button");
+        QTest::keyClicks(height, QStringLiteral("4q0"));
+        check(height->text() == QLatin1String("40"), "height edit guarded too");
         clickRadio(child<QRadioButton>(d, "rgHeight2")); // to largest
         check(!height->isEnabled(), "height edit off again");
         return int(QDialog::Accepted);

@@ -445,21 +445,6 @@ void TestDragging::arrowKeysMoveAndSize()
     QCOMPARE(button->geometry(), QRect(0, 0, 75, 25));
     QCOMPARE(r.changes, 1);
 
-    // The limits of the handlers hold keys as well.
-    f.designer->OnMoveLimit = [](QObject *, QWidget *, QRect &limit) { limit = QRect(0, 0, 100, 400); };
-    f.designer->OnSizeLimit = [](QObject *, QWidget *, QPoint &minSize, QPoint &) { minSize = QPoint(70, 0); };
-    button->setBounds(3, 40, 75, 25);
-    key(f, Qt::Key_Right, kCtrlShift);
-    key(f, Qt::Key_Right, kCtrlShift);
-    QCOMPARE(button->x(), 19);
-    key(f, Qt::Key_Right, kCtrlShift);
-    QCOMPARE(button->x(), 25); // right edge at 100
-    for (int i = 0; i < 10; ++i)
-        key(f, Qt::Key_Left, kShift);
-    QCOMPARE(button->width(), 70);
-    f.designer->OnMoveLimit = nullptr;
-    f.designer->OnSizeLimit = nullptr;
-
     // With SnapToGridKey Ctrl alone moves a grid step.
     f.designer->setSnapToGridKey(true);
     button->setBounds(3, 40, 75, 25);
