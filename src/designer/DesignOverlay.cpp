@@ -92,32 +92,26 @@ bool TDesignOverlay::eventFilter(QObject *watched, QEvent *event)
 
 void TDesignOverlay::refresh()
 {
-    const QList<Mark> marks = multiSelectionMarks();
-    if (marks != m_marks) {
-        for (const Mark &m : std::as_const(m_marks))
-            update(m.rect);
-        for (const Mark &m : marks)
-            update(m.rect);
-        m_marks = marks;
-    }
+    // Each layer repaints where it was and where it is, when it changed.
+    const auto renew = [](auto &shown, const auto &now, auto erase) {
+        if (now == shown)
+            return;
+        for (const auto &item : std::as_const(shown))
+            erase(item);
+        for (const auto &item : now)
+            erase(item);
+        shown = now;
+    };
+    renew(m_marks, multiSelectionMarks(), [this](const Mark &m) { update(m.rect); });
+    const auto eraseFrame = [this](const QRect &r) { updateOutline(this, r); };
     const bool band = m_session.action() == maSelecting;
-    const QList<QRect> frames = dragFrames();
-    if (frames != m_frames || band != m_band) {
-        for (const QRect &r : std::as_const(m_frames))
-            updateOutline(this, r);
-        for (const QRect &r : frames)
-            updateOutline(this, r);
-        m_frames = frames;
+    if (band != m_band) {
+        // Another look: the old frames go even where new ones lie.
+        renew(m_frames, QList<QRect>(), eraseFrame);
         m_band = band;
     }
-    const QList<Line> lines = alignmentLines();
-    if (lines != m_lines) {
-        for (const Line &l : std::as_const(m_lines))
-            update(l.rect);
-        for (const Line &l : lines)
-            update(l.rect);
-        m_lines = lines;
-    }
+    renew(m_frames, dragFrames(), eraseFrame);
+    renew(m_lines, alignmentLines(), [this](const Line &l) { update(l.rect); });
 }
 
 void TDesignOverlay::paintEvent(QPaintEvent *event)

@@ -57,6 +57,20 @@ bool isTab(int key)
     return key == Qt::Key_Tab || key == Qt::Key_Backtab;
 }
 
+// Hands a key to OnKeyDown or OnKeyUp; the handler's key goes back into the
+// message, and no key swallows it.
+template <typename Handler>
+void passKey(QObject *sender, const Handler &handler, TDesignMessage &msg)
+{
+    if (!handler)
+        return;
+    int key = msg.key;
+    handler(sender, key, msg.shift);
+    msg.key = key;
+    if (key == 0)
+        msg.message = 0;
+}
+
 } // namespace
 
 TDesignerInput::TDesignerInput(TCustomFormDesigner &designer, Host &host, TDragSession &session)
@@ -545,13 +559,7 @@ void TDesignerInput::keyDown(TDesignMessage &msg)
             msg.message = 0;
         return;
     }
-    if (m_designer.OnKeyDown) {
-        int key = msg.key;
-        m_designer.OnKeyDown(&m_designer, key, msg.shift);
-        msg.key = key;
-        if (key == 0)
-            msg.message = 0;
-    }
+    passKey(&m_designer, m_designer.OnKeyDown, msg);
 }
 
 void TDesignerInput::keyUp(TDesignMessage &msg)
@@ -562,11 +570,5 @@ void TDesignerInput::keyUp(TDesignMessage &msg)
     }
     if (!keyModeAllowed(keyMode(msg.shift)))
         return;
-    if (m_designer.OnKeyUp) {
-        int key = msg.key;
-        m_designer.OnKeyUp(&m_designer, key, msg.shift);
-        msg.key = key;
-        if (key == 0)
-            msg.message = 0;
-    }
+    passKey(&m_designer, m_designer.OnKeyUp, msg);
 }

@@ -56,40 +56,36 @@ void TCustomFormDesigner::setMessageProcessor(TMessageProcessor v)
     m_messageProcessor = v;
 }
 
-void TCustomFormDesigner::setGridStep(int v)
+void TCustomFormDesigner::gridChanged()
 {
-    m_gridStep = std::max(1, v);
     if (m_active) {
         updateGridBitmap();
         applyDesignBackground();
     }
+}
+
+void TCustomFormDesigner::setGridStep(int v)
+{
+    m_gridStep = std::max(1, v);
+    gridChanged();
 }
 
 void TCustomFormDesigner::setDisplayGrid(bool v)
 {
     m_displayGrid = v;
-    if (m_active) {
-        updateGridBitmap();
-        applyDesignBackground();
-    }
+    gridChanged();
 }
 
 void TCustomFormDesigner::setDesignerColor(TColor v)
 {
     m_designerColor = v;
-    if (m_active) {
-        updateGridBitmap();
-        applyDesignBackground();
-    }
+    gridChanged();
 }
 
 void TCustomFormDesigner::setGridColor(TColor v)
 {
     m_gridColor = v;
-    if (m_active) {
-        updateGridBitmap();
-        applyDesignBackground();
-    }
+    gridChanged();
 }
 
 void TCustomFormDesigner::setGrabSize(int v)

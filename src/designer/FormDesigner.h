@@ -319,6 +319,7 @@ private:
     void updateGrabBitmaps();
 
     // FormDesignerGrid.cpp: grid bitmap and the design control's background
+    void gridChanged(); // FormDesigner.cpp: a grid property changed
     void updateGridBitmap();
     void applyDesignBackground();
     void restoreDesignBackground();
@@ -337,6 +338,8 @@ private:
     // FormDesignerClipboard.cpp: streaming and clipboard
     QWidget *pasteTarget() const;
     void readError(const QString &message, bool handled, bool raise);
+    // A reader's error handler that asks OnReadError and notes what it saw.
+    std::function<void(const QString &, bool &)> reportingTo(QStringList *reported);
     void readLayout(const QByteArray &bytes, const QString &what);
     QList<QWidget *> layoutControls() const;
 

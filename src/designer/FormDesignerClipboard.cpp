@@ -216,11 +216,7 @@ void TCustomFormDesigner::PasteFromClipboard()
     TReadContext ctx;
     ctx.owner = ParentForm();
     ctx.parent = target;
-    ctx.onError = [this, &reported](const QString &message, bool &handled) {
-        reported << message;
-        if (OnReadError)
-            OnReadError(this, message, handled);
-    };
+    ctx.onError = reportingTo(&reported);
     ctx.onCreated = [&created](QWidget *w) { created << w; };
     QString error;
     const QList<QWidget *> tops = readComponents(buffer, ctx, &error);
@@ -264,11 +260,7 @@ void TCustomFormDesigner::LoadComponentFromStream(QIODevice &stream, QWidget *co
     QStringList reported;
     TReadContext ctx;
     ctx.owner = Components::owner(component) ? Components::owner(component) : ParentForm();
-    ctx.onError = [this, &reported](const QString &message, bool &handled) {
-        reported << message;
-        if (OnReadError)
-            OnReadError(this, message, handled);
-    };
+    ctx.onError = reportingTo(&reported);
     QString error;
     const bool ok = readInto(stream, component, ctx, &error);
     if (!ok) {
@@ -301,6 +293,15 @@ void TCustomFormDesigner::SetComponentProperties(QObject *component, const QStri
 }
 
 // ---- whole layouts ----
+
+std::function<void(const QString &, bool &)> TCustomFormDesigner::reportingTo(QStringList *reported)
+{
+    return [this, reported](const QString &message, bool &handled) {
+        *reported << message;
+        if (OnReadError)
+            OnReadError(this, message, handled);
+    };
+}
 
 void TCustomFormDesigner::readError(const QString &message, bool handled, bool raise)
 {
@@ -361,11 +362,7 @@ void TCustomFormDesigner::readLayout(const QByteArray &bytes, const QString &wha
     TReadContext ctx;
     ctx.owner = ParentForm();
     ctx.parent = surface;
-    ctx.onError = [this, &reported](const QString &message, bool &handled) {
-        reported << message;
-        if (OnReadError)
-            OnReadError(this, message, handled);
-    };
+    ctx.onError = reportingTo(&reported);
     const QList<QWidget *> tops = readComponents(buffer, ctx, &error);
     if (!error.isEmpty())
         fail(error, reported.contains(error));
