@@ -1,15 +1,11 @@
 #pragma once
 
-#include <QDialog>
-
 #include "DesignerTypes.h"
-
-class QButtonGroup;
+#include "DirectionsDialog.h"
 
 // Asks how the selected controls are to be lined up: one choice for the
-// horizontal and one for the vertical direction. The button ids of both
-// radio groups are the TAlignMode values.
-class TfrmAlign : public QDialog
+// horizontal and one for the vertical direction.
+class TfrmAlign : public TDirectionsDialog
 {
     Q_OBJECT
 public:
@@ -17,8 +13,6 @@ public:
 
     TAlignMode horizontal() const;
     TAlignMode vertical() const;
-    void setHorizontal(TAlignMode mode);
-    void setVertical(TAlignMode mode);
 
 private:
     QButtonGroup *m_horizontal;

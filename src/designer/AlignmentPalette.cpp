@@ -1,6 +1,5 @@
 #include "AlignmentPalette.h"
 
-#include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -134,11 +133,7 @@ TfrmAlignmentPalette::TfrmAlignmentPalette(QWidget *parent)
     m_hide->setObjectName(QStringLiteral("actHide"));
     connect(m_stayOnTop, &QAction::triggered, this, [this](bool on) { changeOption(apStayOnTop, on); });
     connect(m_showHints, &QAction::triggered, this, [this](bool on) { changeOption(apShowHints, on); });
-    connect(m_hide, &QAction::triggered, this, [this] {
-        hide();
-        if (onHide)
-            onHide();
-    });
+    connect(m_hide, &QAction::triggered, this, &QWidget::hide);
 
     applyOptions();
     layout->setSizeConstraint(QLayout::SetFixedSize);
@@ -207,11 +202,4 @@ void TfrmAlignmentPalette::contextMenuEvent(QContextMenuEvent *event)
 {
     m_menu->popup(event->globalPos());
     event->accept();
-}
-
-void TfrmAlignmentPalette::closeEvent(QCloseEvent *event)
-{
-    QWidget::closeEvent(event);
-    if (event->isAccepted() && onHide)
-        onHide();
 }

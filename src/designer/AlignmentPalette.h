@@ -22,18 +22,14 @@ public:
     // Applies the options without reporting them through onOptionsChanged;
     // apAutoShow is only kept for the engine.
     void setOptions(TAlignmentPaletteOptions options);
-    TAlignmentPaletteOptions options() const { return m_options; }
 
     // (horizontal, vertical): one of the two is always amNoChange.
     std::function<void(TAlignMode, TAlignMode)> onAlign;
     // The user changed an option from the context menu.
     std::function<void(TAlignmentPaletteOptions)> onOptionsChanged;
-    // The user hid the palette (menu or close button).
-    std::function<void()> onHide;
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
-    void closeEvent(QCloseEvent *event) override;
 
 private:
     QToolButton *addButton(const QString &name, const QString &hint, TAlignMode mode, bool vertical);

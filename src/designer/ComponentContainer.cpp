@@ -205,13 +205,13 @@ void TCustomFormDesigner::updateContainers()
         }
         TComponentContainer *c = TComponentContainer::CreateWithComponent(m_attached, component, this);
         m_containers << c;
-        watchWidget(c);
+        m_input.watch(c);
         c->show();
         created = true;
     }
     // The overlay draws above everything on the design control.
     if (created && m_overlay)
-        m_overlay->raise();
+        m_overlay->keepOnTop();
     UpdateGrabs();
 }
 

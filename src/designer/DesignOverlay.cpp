@@ -2,20 +2,16 @@
 // (frames, rubber band, alignment lines, multi-selection marks) and lets
 // every mouse event through to the controls below.
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include "Components.h"
 #include "DesignerWidgets.h"
+#include "DragSession.h"
 #include "FormDesigner.h"
 
 namespace {
 const QColor kFrameColor(128, 128, 128);
-
-// Inside the rectangle, so a frame covers exactly the pixels of the control.
-void drawFrame(QPainter &p, const QRect &r)
-{
-    p.drawRect(QRectF(r).adjusted(1, 1, -1, -1));
-}
 
 // The extent along one edge that matching controls cover.
 struct Span
@@ -31,26 +27,48 @@ struct Span
         hit = true;
     }
 };
+
+// A frame covers the outer pixels of its rectangle only; so does its repaint.
+void updateOutline(QWidget *w, const QRect &r)
+{
+    constexpr int band = 3;
+    if (r.width() <= 2 * band || r.height() <= 2 * band) {
+        w->update(r.adjusted(-1, -1, 1, 1));
+        return;
+    }
+    w->update(QRect(r.left() - 1, r.top() - 1, r.width() + 2, band + 1));
+    w->update(QRect(r.left() - 1, r.bottom() - band + 1, r.width() + 2, band + 1));
+    w->update(QRect(r.left() - 1, r.top() + band, band + 1, r.height() - 2 * band));
+    w->update(QRect(r.right() - band + 1, r.top() + band, band + 1, r.height() - 2 * band));
+}
 } // namespace
 
-TDesignOverlay::TDesignOverlay(TCustomFormDesigner *designer, QWidget *designControl)
-    : QWidget(designControl), m_designer(designer)
+TDesignOverlay::TDesignOverlay(const TCustomFormDesigner &designer, const TDragSession &session,
+                               QWidget *designControl)
+    : QWidget(designControl), m_designer(designer), m_session(session)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_NoSystemBackground);
     setFocusPolicy(Qt::NoFocus);
     setGeometry(designControl->rect());
     designControl->installEventFilter(this);
-    // The design control may go first and take the overlay with it; the
-    // engine must not hold on to it then. A QPointer would not do: the engine
-    // compares against the overlay while it is half destroyed, and a
-    // QPointer<TDesignOverlay> casts it to a type it no longer has.
-    connect(this, &QObject::destroyed, designer, [designer, this] {
-        if (designer->m_overlay == this)
-            designer->m_overlay = nullptr;
-    });
+    connect(&session, &TDragSession::changed, this, &TDesignOverlay::refresh);
     raise();
     show();
+}
+
+void TDesignOverlay::keepOnTop()
+{
+    // Raising repaints the whole glass even where nothing moves.
+    QWidget *parent = parentWidget();
+    const QObjectList &siblings = parent ? parent->children() : QObjectList();
+    for (auto it = siblings.crbegin(); it != siblings.crend(); ++it) {
+        if (*it == this)
+            return;
+        if ((*it)->isWidgetType() && !static_cast<QWidget *>(*it)->isWindow())
+            break;
+    }
+    raise();
 }
 
 bool TDesignOverlay::eventFilter(QObject *watched, QEvent *event)
@@ -63,7 +81,7 @@ bool TDesignOverlay::eventFilter(QObject *watched, QEvent *event)
         case QEvent::ChildAdded:
             // New controls go on top; the overlay stays above them.
             if (static_cast<QChildEvent *>(event)->child() != this)
-                raise();
+                keepOnTop();
             break;
         default:
             break;
@@ -72,82 +90,110 @@ bool TDesignOverlay::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void TDesignOverlay::paintEvent(QPaintEvent *)
+void TDesignOverlay::refresh()
+{
+    // Each layer repaints where it was and where it is, when it changed.
+    const auto renew = [](auto &shown, const auto &now, auto erase) {
+        if (now == shown)
+            return;
+        for (const auto &item : std::as_const(shown))
+            erase(item);
+        for (const auto &item : now)
+            erase(item);
+        shown = now;
+    };
+    renew(m_marks, multiSelectionMarks(), [this](const Mark &m) { update(m.rect); });
+    const auto eraseFrame = [this](const QRect &r) { updateOutline(this, r); };
+    const bool band = m_session.action() == maSelecting;
+    if (band != m_band) {
+        // Another look: the old frames go even where new ones lie.
+        renew(m_frames, QList<QRect>(), eraseFrame);
+        m_band = band;
+    }
+    renew(m_frames, dragFrames(), eraseFrame);
+    renew(m_lines, alignmentLines(), [this](const Line &l) { update(l.rect); });
+}
+
+void TDesignOverlay::paintEvent(QPaintEvent *event)
 {
     QPainter p(this);
-    paintMultiSelection(p);
-    paintDragFrames(p);
-    paintAlignmentLines(p);
+    const QRect dirty = event->rect();
+    for (const Mark &m : std::as_const(m_marks))
+        if (m.rect.intersects(dirty))
+            p.drawPixmap(m.rect, m.look);
+    if (m_band) {
+        p.setPen(QPen(kFrameColor, 1, Qt::DotLine));
+        for (const QRect &r : std::as_const(m_frames))
+            p.drawRect(r.adjusted(0, 0, -1, -1));
+    } else {
+        QPen pen(kFrameColor, 2);
+        pen.setJoinStyle(Qt::MiterJoin);
+        p.setPen(pen);
+        // Inside the rectangle, so a frame covers exactly the pixels of the control.
+        for (const QRect &r : std::as_const(m_frames))
+            if (r.intersects(dirty))
+                p.drawRect(QRectF(r).adjusted(1, 1, -1, -1));
+    }
+    for (const Line &l : std::as_const(m_lines))
+        p.fillRect(l.rect, l.color);
 }
 
-void TDesignOverlay::paintMultiSelection(QPainter &p)
+QList<TDesignOverlay::Mark> TDesignOverlay::multiSelectionMarks() const
 {
     // One selected control has handle windows of its own; more get marks.
-    const TCustomFormDesigner &d = *m_designer;
+    QList<Mark> marks;
+    const TCustomFormDesigner &d = m_designer;
     if (d.ControlCount() <= 1)
-        return;
-    for (const QPointer<QWidget> &c : d.m_controls) {
-        if (!c || !c->parentWidget() || !c->isVisible())
+        return marks;
+    const QWidget *surface = parentWidget();
+    const QPixmap looks[2] = {d.grabBitmap(gtMulti), d.grabBitmap(gtLocked)};
+    for (QWidget *c : d.selection()) {
+        if (!c->parentWidget() || !c->isVisible())
             continue;
-        const QRect bounds(d.designOrigin(c->parentWidget()) + c->pos(), c->size());
-        const TGrabType type = d.IsLocked(c) ? gtLocked : gtMulti;
-        const QPixmap mark = d.grabBitmap(type);
-        for (int pos = gpLeftTop; pos <= gpRightBottom; ++pos) {
-            const QRect r = TGrabHandles::handleRect(d.m_grabMode, d.m_grabSize, bounds, TGrabPosition(pos));
-            if (mark.isNull())
-                p.fillRect(r, d.m_grabFill[type].toQColor());
-            else
-                p.drawPixmap(r, mark);
-        }
+        const QRect bounds(designOrigin(surface, c->parentWidget()) + c->pos(), c->size());
+        const QPixmap &look = looks[d.IsLocked(c) ? 1 : 0];
+        for (int pos = gpLeftTop; pos <= gpRightBottom; ++pos)
+            marks.append({TGrabHandles::handleRect(d.GrabMode(), d.GrabSize(), bounds, TGrabPosition(pos)), look});
     }
+    return marks;
 }
 
-void TDesignOverlay::paintDragFrames(QPainter &p)
+QList<QRect> TDesignOverlay::dragFrames() const
 {
-    const TCustomFormDesigner &d = *m_designer;
-    if (d.m_mouseAction == maSelecting) {
-        if (d.m_selectRect.isEmpty())
-            return;
-        QPen pen(kFrameColor, 1, Qt::DotLine);
-        p.setPen(pen);
-        p.setBrush(Qt::NoBrush);
-        p.drawRect(d.m_selectRect.adjusted(0, 0, -1, -1));
-        return;
-    }
-    QPen pen(kFrameColor, 2);
-    pen.setJoinStyle(Qt::MiterJoin);
-    p.setPen(pen);
-    p.setBrush(Qt::NoBrush);
-    if (d.m_mouseAction == maPlacing && d.m_dragStarted) {
-        drawFrame(p, d.m_placeRect);
-        return;
-    }
+    const TDragSession &s = m_session;
+    if (s.action() == maSelecting)
+        return s.selectRect().isEmpty() ? QList<QRect>() : QList<QRect>{s.selectRect()};
+    if (s.action() == maPlacing && s.started())
+        return {s.placeRect()};
     // With DirectMove the controls themselves show where they go.
-    if (d.m_mouseAction != maDragging || !d.m_dragStarted || d.m_directMove)
-        return;
-    for (int i = 0; i < d.m_dragRects.size() && i < d.m_dragControls.size(); ++i) {
-        const QWidget *c = d.m_dragControls.at(i);
-        if (c && c->parentWidget())
-            drawFrame(p, d.m_dragRects.at(i).translated(d.designOrigin(c->parentWidget())));
-    }
+    QList<QRect> frames;
+    if (s.action() != maDragging || !s.started() || m_designer.DirectMove())
+        return frames;
+    for (const TDragSession::Frame &f : s.frames())
+        if (f.control && f.control->parentWidget())
+            frames.append(f.rect.translated(designOrigin(parentWidget(), f.control->parentWidget())));
+    return frames;
 }
 
-void TDesignOverlay::paintAlignmentLines(QPainter &p)
+QList<TDesignOverlay::Line> TDesignOverlay::alignmentLines() const
 {
-    const TCustomFormDesigner &d = *m_designer;
-    if (d.m_mouseAction != maDragging || !d.m_dragStarted || !d.m_alignmentLines)
-        return;
-    const QWidget *control = d.m_dragControls.value(0);
+    QList<Line> lines;
+    const TCustomFormDesigner &d = m_designer;
+    const TDragSession &s = m_session;
+    if (s.action() != maDragging || !s.started() || !d.AlignmentLines())
+        return lines;
+    const QWidget *control = s.frames().isEmpty() ? nullptr : s.frames().first().control.data();
     const QWidget *parent = control ? control->parentWidget() : nullptr;
     if (!parent)
-        return;
+        return lines;
 
     // Siblings compare in their parent's coordinates; across the whole form
     // everything compares in the design control's.
-    const bool entire = d.m_alignmentEntireForm;
-    const bool moving = d.m_dragHandle == gpNone;
-    const QPoint parentOrigin = d.designOrigin(parent);
-    const QRect drag = entire ? d.m_dragRect.translated(parentOrigin) : d.m_dragRect;
+    const QWidget *surface = parentWidget();
+    const bool entire = d.AlignmentEntireForm();
+    const bool moving = s.handle() == gpNone;
+    const QPoint parentOrigin = designOrigin(surface, parent);
+    const QRect drag = entire ? s.dragRect().translated(parentOrigin) : s.dragRect();
     const QPoint toOverlay = entire ? QPoint() : parentOrigin;
     const int dragRight = drag.x() + drag.width(), dragBottom = drag.y() + drag.height();
 
@@ -160,9 +206,9 @@ void TDesignOverlay::paintAlignmentLines(QPainter &p)
         if (!wParent || !wParent->isVisible() || (!entire && wParent != parent))
             continue;
         // Controls that travel with the mouse would always match themselves.
-        if (d.m_directMove && moving && d.ControlIndex(w) >= 0)
+        if (d.DirectMove() && moving && d.ControlIndex(w) >= 0)
             continue;
-        const QRect b = entire ? w->geometry().translated(d.designOrigin(wParent)) : w->geometry();
+        const QRect b = entire ? w->geometry().translated(designOrigin(surface, wParent)) : w->geometry();
         const int right = b.x() + b.width(), bottom = b.y() + b.height();
         if (b.x() == drag.x())
             spans[0].add(b.y(), bottom);
@@ -176,9 +222,11 @@ void TDesignOverlay::paintAlignmentLines(QPainter &p)
 
     static const TLinePosition edges[4] = {lpLeft, lpTop, lpRight, lpBottom};
     const int at[4] = {drag.x(), drag.y(), dragRight, dragBottom};
-    const int width = std::max(1, d.m_alignmentLineWidth);
+    const TColor colors[4] = {d.AlignmentColorLeft(), d.AlignmentColorTop(), d.AlignmentColorRight(),
+                              d.AlignmentColorBottom()};
+    const int width = std::max(1, d.AlignmentLineWidth());
     for (int i = 0; i < 4; ++i) {
-        if (!(d.m_alignmentLines & edges[i]) || !spans[i].hit)
+        if (!(d.AlignmentLines() & edges[i]) || !spans[i].hit)
             continue;
         Span span = spans[i];
         const bool vertical = i == 0 || i == 2;
@@ -188,6 +236,7 @@ void TDesignOverlay::paintAlignmentLines(QPainter &p)
             span.add(drag.x(), dragRight);
         const QRect line = vertical ? QRect(at[i] - width / 2, span.from, width, span.to - span.from)
                                     : QRect(span.from, at[i] - width / 2, span.to - span.from, width);
-        p.fillRect(line.translated(toOverlay), d.m_alignmentColor[i].toQColor());
+        lines.append({line.translated(toOverlay), colors[i].toQColor()});
     }
+    return lines;
 }

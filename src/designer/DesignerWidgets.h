@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPixmap>
 #include <QPointer>
 #include <QRect>
 #include <QWidget>
@@ -7,6 +8,7 @@
 #include "DesignerTypes.h"
 
 class TCustomFormDesigner;
+class TDragSession;
 
 // One small handle around the current control; a child of the control's
 // parent. A press on an enabled handle starts sizing.
@@ -64,23 +66,49 @@ private:
     bool m_visible = false;
 };
 
-// Drawn above the design control and everything on it: the drag frames, the
-// rubber band, the placing frame, the alignment lines and the marks of a
-// multiple selection. It takes no mouse input; erasing means repainting.
+// Drawn above the design control and everything on it: the frames of a
+// mouse action (read from its TDragSession), the alignment lines and the
+// marks of a multiple selection. It takes no mouse input; erasing means
+// repainting. What it shows is worked out in refresh(), and only the
+// rectangles that change are repainted, so that a drag step or a click does
+// not repaint every control under the glass.
 class TDesignOverlay : public QWidget
 {
     Q_OBJECT
 public:
-    TDesignOverlay(TCustomFormDesigner *designer, QWidget *designControl);
+    TDesignOverlay(const TCustomFormDesigner &designer, const TDragSession &session, QWidget *designControl);
+
+    // Takes the engine's and the session's state anew.
+    void refresh();
+    // Raises the overlay above the controls unless it is there already.
+    void keepOnTop();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void paintDragFrames(class QPainter &p);
-    void paintAlignmentLines(class QPainter &p);
-    void paintMultiSelection(class QPainter &p);
+    struct Mark
+    {
+        QRect rect;
+        QPixmap look;
+        bool operator==(const Mark &o) const { return rect == o.rect && look.cacheKey() == o.look.cacheKey(); }
+    };
+    struct Line
+    {
+        QRect rect;
+        QColor color;
+        bool operator==(const Line &o) const { return rect == o.rect && color == o.color; }
+    };
 
-    TCustomFormDesigner *m_designer;
+    QList<Mark> multiSelectionMarks() const;
+    QList<QRect> dragFrames() const;
+    QList<Line> alignmentLines() const;
+
+    const TCustomFormDesigner &m_designer;
+    const TDragSession &m_session;
+    QList<Mark> m_marks;
+    QList<QRect> m_frames; // solid frames, or the dotted rubber band
+    bool m_band = false;
+    QList<Line> m_lines;
 };

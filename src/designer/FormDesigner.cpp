@@ -9,16 +9,17 @@
 #include "Control.h"
 #include "DesignerWidgets.h"
 
-namespace {
-QList<TCustomFormDesigner *> &activeList()
+TCustomFormDesigner::TCustomFormDesigner(QObject *owner)
+    : QObject(owner), m_session(*this), m_input(*this, *this, m_session)
 {
-    static QList<TCustomFormDesigner *> list;
-    return list;
-}
-} // namespace
-
-TCustomFormDesigner::TCustomFormDesigner(QObject *owner) : QObject(owner)
-{
+    connect(&m_selection, &TDesignSelection::controlDestroyed, this, [this](QWidget *gone, QWidget *old) {
+        // A selected control went away: it has left the selection.
+        if (!m_active)
+            return;
+        if (OnDeleteControl)
+            OnDeleteControl(this, gone);
+        selectionChanged(old);
+    });
     updateGrabBitmaps();
 }
 
@@ -32,12 +33,6 @@ TCustomFormDesigner::~TCustomFormDesigner()
         }
     }
     delete m_palette.data();
-    delete m_hint.data();
-}
-
-const QList<TCustomFormDesigner *> &TCustomFormDesigner::activeDesigners()
-{
-    return activeList();
 }
 
 QWidget *TCustomFormDesigner::ParentForm() const
@@ -61,40 +56,36 @@ void TCustomFormDesigner::setMessageProcessor(TMessageProcessor v)
     m_messageProcessor = v;
 }
 
-void TCustomFormDesigner::setGridStep(int v)
+void TCustomFormDesigner::gridChanged()
 {
-    m_gridStep = std::max(1, v);
     if (m_active) {
         updateGridBitmap();
         applyDesignBackground();
     }
+}
+
+void TCustomFormDesigner::setGridStep(int v)
+{
+    m_gridStep = std::max(1, v);
+    gridChanged();
 }
 
 void TCustomFormDesigner::setDisplayGrid(bool v)
 {
     m_displayGrid = v;
-    if (m_active) {
-        updateGridBitmap();
-        applyDesignBackground();
-    }
+    gridChanged();
 }
 
 void TCustomFormDesigner::setDesignerColor(TColor v)
 {
     m_designerColor = v;
-    if (m_active) {
-        updateGridBitmap();
-        applyDesignBackground();
-    }
+    gridChanged();
 }
 
 void TCustomFormDesigner::setGridColor(TColor v)
 {
     m_gridColor = v;
-    if (m_active) {
-        updateGridBitmap();
-        applyDesignBackground();
-    }
+    gridChanged();
 }
 
 void TCustomFormDesigner::setGrabSize(int v)
@@ -107,8 +98,8 @@ void TCustomFormDesigner::setMultiSelect(bool v)
 {
     m_multiSelect = v;
     // Without multiple selection only the current control stays.
-    while (!m_multiSelect && m_controls.size() > 1)
-        DeleteControl(m_controls.last());
+    while (!m_multiSelect && m_selection.count() > 1)
+        DeleteControl(m_selection.at(m_selection.count() - 1));
 }
 
 void TCustomFormDesigner::setDesignControl(QWidget *v)
@@ -163,20 +154,23 @@ void TCustomFormDesigner::attach()
 
     m_attached = dc;
     m_active = true;
-    m_controls.clear();
-    m_components.clear();
+    m_selection.takeControls();
+    m_selection.clearComponents();
     m_grabs = new TGrabHandles(this);
-    activeList().append(this);
-    installHook();
-    watchWidget(dc);
+    m_session.setDesignControl(dc);
+    m_input.attach(dc);
 
     m_savedFocusPolicy = dc->focusPolicy();
     dc->setFocusPolicy(Qt::StrongFocus);
     updateGridBitmap();
     applyDesignBackground();
-    m_overlay = new TDesignOverlay(this, dc);
-    m_overlay->show();
-    m_overlay->raise();
+    m_overlay = new TDesignOverlay(*this, m_session, dc);
+    m_input.exclude(m_overlay);
+    // The design control may go first and take the overlay with it.
+    connect(m_overlay, &QObject::destroyed, this, [this](QObject *gone) {
+        if (m_overlay == gone)
+            m_overlay = nullptr;
+    });
     updateContainers();
     UpdateGrabs();
 
@@ -191,24 +185,16 @@ void TCustomFormDesigner::detach()
     CancelPlacing();
     LeaveMouseAction();
     removeContainers();
-    activeList().removeAll(this);
-    removeHook();
+    m_input.detach();
     QWidget *dc = m_attached;
-    for (const QPointer<QWidget> &w : std::as_const(m_watched))
-        if (w)
-            unwatchWidget(w);
-    m_watched.clear();
-    m_watchedSet.clear();
-    for (const QPointer<QWidget> &c : std::as_const(m_controls))
-        if (c)
-            disconnect(c, &QObject::destroyed, this, nullptr);
-    m_controls.clear();
-    m_components.clear();
+    m_selection.takeControls();
+    m_selection.clearComponents();
     delete m_grabs;
     m_grabs = nullptr;
     delete m_overlay;
     m_overlay = nullptr;
-    hideHint();
+    m_session.reset();
+    m_session.setDesignControl(nullptr);
     if (dc) {
         restoreDesignBackground();
         dc->setFocusPolicy(m_savedFocusPolicy);
@@ -219,39 +205,11 @@ void TCustomFormDesigner::detach()
         OnDeactivate(this);
 }
 
-void TCustomFormDesigner::watchWidget(QWidget *widget)
-{
-    if (!widget || widget == m_overlay || widget == m_underlay)
-        return;
-    if (m_messageProcessor == mpEvent && !m_watchedSet.contains(widget)) {
-        widget->installEventFilter(this);
-        m_watched.append(widget);
-        m_watchedSet.insert(widget);
-        // A later widget may get the same address; it must be watched anew.
-        connect(widget, &QObject::destroyed, &m_watchContext,
-                [this](QObject *gone) { m_watchedSet.remove(static_cast<QWidget *>(gone)); });
-    }
-    if (TControl *c = TControl::from(widget); c && widget != m_attached)
-        c->setDesigning(true);
-    for (QObject *child : widget->children())
-        if (child->isWidgetType())
-            watchWidget(static_cast<QWidget *>(child));
-}
-
-void TCustomFormDesigner::unwatchWidget(QWidget *widget)
-{
-    widget->removeEventFilter(this);
-    disconnect(widget, &QObject::destroyed, &m_watchContext, nullptr);
-    if (TControl *c = TControl::from(widget); c && widget != m_attached)
-        c->setDesigning(false);
-}
-
 void TCustomFormDesigner::Update()
 {
     if (!m_active)
         return;
-    m_watched.removeIf([](const QPointer<QWidget> &w) { return w.isNull(); });
-    watchWidget(m_attached);
+    m_input.refresh();
     updateGridBitmap();
     applyDesignBackground();
     UpdateGrabs();
@@ -268,50 +226,36 @@ bool TCustomFormDesigner::IsDesignable(QObject *component) const
     return editable;
 }
 
-bool TCustomFormDesigner::isInDesignControl(const QWidget *widget) const
-{
-    return m_attached && widget && (widget == m_attached || m_attached->isAncestorOf(widget));
-}
-
 // ---- the selection ----
 
 QWidget *TCustomFormDesigner::currentControl() const
 {
-    for (const QPointer<QWidget> &c : m_controls)
-        if (c)
-            return c;
-    return nullptr;
+    return m_selection.current();
 }
 
 QList<QWidget *> TCustomFormDesigner::selection() const
 {
-    QList<QWidget *> out;
-    for (const QPointer<QWidget> &c : m_controls)
-        if (c)
-            out << c.data();
-    return out;
+    return m_selection.controls();
 }
 
 QWidget *TCustomFormDesigner::Controls(int index) const
 {
-    if (index < 0 || index >= m_controls.size() || !m_controls.at(index))
+    QWidget *control = m_selection.at(index);
+    if (!control)
         throw EFormDesigner(QStringLiteral("Index of Controls array is out or range."));
-    return m_controls.at(index);
+    return control;
 }
 
 QObject *TCustomFormDesigner::Components(int index) const
 {
-    if (index < 0 || index >= m_components.size())
+    if (index < 0 || index >= m_selection.componentCount())
         throw EFormDesigner(QStringLiteral("Index of Controls array is out or range."));
-    return m_components.at(index);
+    return m_selection.componentAt(index);
 }
 
 int TCustomFormDesigner::ControlIndex(QWidget *control) const
 {
-    for (int i = 0; i < m_controls.size(); ++i)
-        if (m_controls.at(i) == control)
-            return i;
-    return -1;
+    return m_selection.indexOf(control);
 }
 
 bool TCustomFormDesigner::validateSelection(QWidget *control)
@@ -337,29 +281,13 @@ void TCustomFormDesigner::AddControl(QWidget *control)
     if (!control || ControlIndex(control) >= 0 || !IsDesignable(control) || !validateSelection(control))
         return;
     QWidget *old = currentControl();
-    if (!m_multiSelect && !m_controls.isEmpty()) {
+    if (!m_multiSelect && m_selection.count() > 0) {
         // One control at a time: the new one replaces the selection.
-        const QList<QPointer<QWidget>> gone = m_controls;
-        m_controls.clear();
-        for (const QPointer<QWidget> &c : gone)
-            if (c && OnDeleteControl)
+        for (QWidget *c : m_selection.takeControls())
+            if (OnDeleteControl)
                 OnDeleteControl(this, c);
     }
-    m_controls.append(control);
-    disconnect(control, &QObject::destroyed, this, nullptr);
-    connect(control, &QObject::destroyed, this, [this](QObject *gone) {
-        // A selected control went away: it leaves the selection.
-        if (!m_active)
-            return;
-        QWidget *old = currentControl();
-        const auto dead = [gone](const QPointer<QWidget> &c) {
-            return c.isNull() || static_cast<QObject *>(c.data()) == gone;
-        };
-        m_controls.removeIf(dead);
-        if (OnDeleteControl)
-            OnDeleteControl(this, static_cast<QWidget *>(gone));
-        selectionChanged(old); // compared by address only: the old one may be dying
-    });
+    m_selection.append(control);
     if (OnAddControl)
         OnAddControl(this, control);
     selectionChanged(old);
@@ -367,42 +295,34 @@ void TCustomFormDesigner::AddControl(QWidget *control)
 
 void TCustomFormDesigner::DeleteControl(QWidget *control)
 {
-    const int index = ControlIndex(control);
-    if (index < 0)
+    if (ControlIndex(control) < 0)
         return;
     QWidget *old = currentControl();
-    m_controls.removeAt(index);
-    disconnect(control, &QObject::destroyed, this, nullptr);
+    m_selection.remove(control);
     if (OnDeleteControl)
         OnDeleteControl(this, control);
     selectionChanged(old);
 }
 
-void TCustomFormDesigner::setCurrent(QWidget *control)
+void TCustomFormDesigner::makeCurrent(QWidget *control)
 {
-    const int index = ControlIndex(control);
-    if (index <= 0)
+    if (ControlIndex(control) <= 0)
         return;
     QWidget *old = currentControl();
-    m_controls.move(index, 0);
+    m_selection.moveToFront(control);
     selectionChanged(old);
 }
 
 void TCustomFormDesigner::ClearControls()
 {
-    if (m_controls.isEmpty() && m_components.isEmpty())
+    if (m_selection.count() == 0 && m_selection.componentCount() == 0)
         return;
     QWidget *old = currentControl();
-    const QList<QPointer<QWidget>> gone = m_controls;
-    m_controls.clear();
-    m_components.clear();
-    for (const QPointer<QWidget> &c : gone) {
-        if (!c)
-            continue;
-        disconnect(c, &QObject::destroyed, this, nullptr);
+    const QList<QWidget *> gone = m_selection.takeControls();
+    m_selection.clearComponents();
+    for (QWidget *c : gone)
         if (OnDeleteControl)
             OnDeleteControl(this, c);
-    }
     selectionChanged(old);
 }
 
@@ -423,16 +343,13 @@ void TCustomFormDesigner::SelectAll()
 
 void TCustomFormDesigner::AddComponent(QObject *component)
 {
-    if (!component || m_components.contains(component))
-        return;
-    m_components.append(component);
-    if (OnSelectionChange)
+    if (m_selection.addComponent(component) && OnSelectionChange)
         OnSelectionChange(this);
 }
 
 void TCustomFormDesigner::DeleteComponent(QObject *component)
 {
-    if (m_components.removeAll(component) > 0 && OnSelectionChange)
+    if (m_selection.removeComponent(component) && OnSelectionChange)
         OnSelectionChange(this);
 }
 
@@ -520,6 +437,27 @@ QString TCustomFormDesigner::GetComponentCaption(QObject *component) const
     if (OnComponentCaption)
         OnComponentCaption(const_cast<TCustomFormDesigner *>(this), component, text);
     return text;
+}
+
+// ---- the engine's posted messages ----
+
+void TCustomFormDesigner::customEvent(QEvent *event)
+{
+    if (event->type() == designEventType(DesignMessages::FD_POPUPMENU))
+        showPopupMenu();
+    else if (event->type() == designEventType(DesignMessages::FD_LEAVEMOUSEACTION))
+        LeaveMouseAction();
+}
+
+void TCustomFormDesigner::showPopupMenu()
+{
+    if (!m_popupMenu || !m_active)
+        return;
+    Lock();
+    QCoreApplication::processEvents();
+    LeaveMouseAction();
+    m_popupMenu->popup(QCursor::pos());
+    Unlock();
 }
 
 void TCustomFormDesigner::DoMoveSizeControl(QWidget *control)

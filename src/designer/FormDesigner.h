@@ -1,19 +1,20 @@
 #pragma once
 
-#include <QElapsedTimer>
-#include <QLabel>
 #include <QMenu>
 #include <QList>
 #include <QPixmap>
 #include <QPointer>
 #include <QRect>
-#include <QSet>
 #include <QStringList>
 #include <QWidget>
 #include <functional>
 
 #include "Colors.h"
+#include "DesignMessage.h"
+#include "DesignSelection.h"
+#include "DesignerInput.h"
 #include "DesignerTypes.h"
+#include "DragSession.h"
 
 class QIODevice;
 class TMemIniFile;
@@ -22,50 +23,15 @@ class TDesignOverlay;
 class TComponentContainer;
 class TfrmAlignmentPalette;
 
-// Message codes of the records the engine hands to OnMessage. Mouse and key
-// events of the design control and everything inside it become such records;
-// a handler that sets the code to 0 swallows the event.
-namespace DesignMessages {
-constexpr unsigned WM_MOVE = 0x0003;
-constexpr unsigned WM_SIZE = 0x0005;
-constexpr unsigned WM_PAINT = 0x000F;
-constexpr unsigned WM_KEYDOWN = 0x0100;
-constexpr unsigned WM_KEYUP = 0x0101;
-constexpr unsigned WM_HSCROLL = 0x0114;
-constexpr unsigned WM_VSCROLL = 0x0115;
-constexpr unsigned WM_MOUSEMOVE = 0x0200;
-constexpr unsigned WM_LBUTTONDOWN = 0x0201;
-constexpr unsigned WM_LBUTTONUP = 0x0202;
-constexpr unsigned WM_LBUTTONDBLCLK = 0x0203;
-constexpr unsigned WM_RBUTTONDOWN = 0x0204;
-constexpr unsigned WM_RBUTTONUP = 0x0205;
-constexpr unsigned WM_RBUTTONDBLCLK = 0x0206;
-constexpr unsigned WM_MBUTTONDOWN = 0x0207;
-constexpr unsigned WM_MBUTTONUP = 0x0208;
-constexpr unsigned WM_MBUTTONDBLCLK = 0x0209;
-constexpr unsigned WM_MOUSEWHEEL = 0x020A;
-// The engine's own posted messages.
-constexpr unsigned FD_POPUPMENU = 2025;
-constexpr unsigned FD_LEAVEMOUSEACTION = 0xB001;
-} // namespace DesignMessages
-
-// One intercepted input event, as handlers see it.
-struct TDesignMessage
-{
-    QPointer<QWidget> hwnd;   // the widget the event is addressed to
-    unsigned message = 0;     // a DesignMessages code; 0 = swallowed
-    int key = 0;              // Qt::Key of key messages
-    Qt::MouseButtons buttons; // buttons held (mouse messages)
-    Qt::KeyboardModifiers shift;
-    QPoint pos;               // in hwnd's coordinates
-    QPoint pt;                // global position
-    qint64 time = 0;          // milliseconds
-};
-
 // The form designer engine: attached to a form, it makes the controls on its
 // design control selectable, movable and sizable. It knows nothing of masks;
 // a "control" is any toolkit control (TControl) inside the design control.
-class TCustomFormDesigner : public QObject
+// The engine holds the published properties and the commands; it composes
+// the selection (TDesignSelection), the mouse action in progress
+// (TDragSession), the input of the design control (TDesignerInput), the grab
+// handles (TGrabHandles) and the overlay that draws frames and marks
+// (TDesignOverlay).
+class TCustomFormDesigner : public QObject, private TDesignerInput::Host
 {
     Q_OBJECT
 public:
@@ -228,15 +194,15 @@ public:
     bool Active() const { return m_active; }
     void setActive(bool active);
     QWidget *Controls(int index) const; // throws EFormDesigner outside 0..ControlCount-1
-    int ControlCount() const { return int(m_controls.size()); }
+    int ControlCount() const { return m_selection.count(); }
     QObject *Components(int index) const; // selected non-visual components
-    int ComponentCount() const { return int(m_components.size()); }
+    int ComponentCount() const { return m_selection.componentCount(); }
     bool Modified() const { return m_modified; }
     void setModified(bool v) { m_modified = v; }
     bool Locked() const { return m_lockCount > 0; }
     bool SynchroLocked() const { return m_synchroLockCount > 0; }
-    TMouseAction MouseAction() const { return m_mouseAction; }
-    QWidget *MenuControl() const { return m_menuControl; }
+    TMouseAction MouseAction() const { return m_session.action(); }
+    QWidget *MenuControl() const { return m_input.menuControl(); }
     QWidget *ParentForm() const;
     QWidget *AlignmentPaletteForm() const;
     QByteArray Ancestor() const { return m_ancestor; }
@@ -252,6 +218,8 @@ public:
     void UpdateGrabs();
     // The grid bitmap as last built (empty when the step is wider than the screen).
     QPixmap gridBitmap() const { return m_gridBitmap; }
+    // The pre-drawn handle of each look, as handles and multi-selection marks show it.
+    QPixmap grabBitmap(TGrabType type) const { return m_grabBitmap[type]; }
     int ControlIndex(QWidget *control) const;
     void AddControl(QWidget *control);
     void DeleteControl(QWidget *control);
@@ -316,11 +284,7 @@ public:
     QString GetComponentHint(QObject *component) const;
     QString GetComponentCaption(QObject *component) const;
 
-    // The engines that are active now, across the process.
-    static const QList<TCustomFormDesigner *> &activeDesigners();
-
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void customEvent(QEvent *event) override;
 
     // The two notifications through which moves, sizes and changes are reported.
@@ -328,63 +292,34 @@ protected:
     virtual void DoChange();
 
 private:
-    friend class TGrabHandles;
-    friend class TGrabHandle;
-    friend class TDesignOverlay;
-    friend class TDesignerHook;
-    friend class TComponentContainer;
-
     // FormDesigner.cpp: attaching, selection
     void attach();
     void detach();
-    void installHook();
-    void removeHook();
-    void watchWidget(QWidget *widget);
-    void unwatchWidget(QWidget *widget);
     QWidget *designControlOrForm() const;
     void selectionChanged(QWidget *oldCurrent);
-    void setCurrent(QWidget *control);
     bool validateSelection(QWidget *control);
-
-    // FormDesignerMessages.cpp: events to message records and their handling
-    bool isInDesignControl(const QWidget *widget) const;
-    bool processEvent(QWidget *target, QEvent *event);
-    bool buildMessage(QWidget *target, QEvent *event, TDesignMessage &msg) const;
-    bool dispatchMessage(TDesignMessage &msg);
-    void handleLeftButtonDown(TDesignMessage &msg);
-    void handleDoubleClick(TDesignMessage &msg, bool raiseEvent);
-    void handleRightButtonDown(TDesignMessage &msg);
-    void handleRightButtonUp(TDesignMessage &msg);
     void showPopupMenu();
 
-    // FormDesignerKeys.cpp
-    void handleKeyDown(TDesignMessage &msg);
-    void handleKeyUp(TDesignMessage &msg);
-    enum TKeyMode { kmNone, kmSelect, kmMovePixel, kmMoveGrid, kmSize };
-    TKeyMode keyMode(Qt::KeyboardModifiers shift) const;
-    void keyboardMoveSize(int key, TKeyMode mode);
+    // What the input asks of the engine (TDesignerInput::Host).
+    void makeCurrent(QWidget *control) override;
+    bool acceptsSelection(QWidget *control) override { return validateSelection(control); }
+    QString armedClass() const override { return m_placeClass; }
+    void moveSizeByKey(int key, TDesignerInput::KeyMode mode) override; // FormDesignerNudge.cpp
+    void finishMouseAction(const QPoint &designPos, Qt::KeyboardModifiers shift,
+                           const QPoint &globalPos) override; // FormDesignerDrag.cpp
 
-    // FormDesignerGrabs.cpp: handles and multi-selection marks
+    // FormDesignerDrag.cpp: applying a mouse action
+    void finishDrag();
+    void finishSelecting(Qt::KeyboardModifiers shift);
+    void finishPlacing(Qt::KeyboardModifiers shift);
+
+    // FormDesignerGrabs.cpp: the handles' looks
     void setGrabColor(TColor &slot, TColor value);
     void setGrabGlyph(TGrabType type, const QPixmap &glyph);
     void updateGrabBitmaps();
-    QPixmap grabBitmap(TGrabType type) const { return m_grabBitmap[type]; }
-
-    // FormDesignerDrag.cpp: mouse moving, sizing, rubber band, placing
-    void startDrag(QWidget *control, TGrabPosition handle, const QPoint &designPos);
-    void startSelecting(const QPoint &designPos);
-    void startPlacing(QWidget *parent, const QPoint &designPos);
-    void mouseMoveAction(TDesignMessage &msg);
-    void mouseUpAction(TDesignMessage &msg);
-    QRect snapRect(const QRect &r) const;
-    QPoint snapPoint(const QPoint &p) const;
-    QRect limitRect(QWidget *control) const;
-    QRect applyLimits(QWidget *control, const QRect &r, bool sizing) const;
-    void setControlBounds(QWidget *control, const QRect &r);
-    void updateHint(const QString &text, const QPoint &globalPos);
-    void hideHint();
 
     // FormDesignerGrid.cpp: grid bitmap and the design control's background
+    void gridChanged(); // FormDesigner.cpp: a grid property changed
     void updateGridBitmap();
     void applyDesignBackground();
     void restoreDesignBackground();
@@ -397,25 +332,23 @@ private:
 
     // FormDesignerCommands.cpp: align, size, tab order
     void prepareSelection(bool dropLocked);
+    // Moves and sizes done, reported together.
+    void reportMoveSize(const QList<QWidget *> &controls, const QList<QRect> &before);
 
     // FormDesignerClipboard.cpp: streaming and clipboard
     QWidget *pasteTarget() const;
+    void readError(const QString &message, bool handled, bool raise);
+    // A reader's error handler that asks OnReadError and notes what it saw.
+    std::function<void(const QString &, bool &)> reportingTo(QStringList *reported);
+    void readLayout(const QByteArray &bytes, const QString &what);
+    QList<QWidget *> layoutControls() const;
 
-    // ---- commands, lists and clipboard ----
     // ComponentContainer.cpp: one container per non-visual component of the
     // form while active and ShowNonVisual; attach() calls updateContainers()
     // once the design control is set up, detach() calls removeContainers()
     // while m_attached is still set.
     void updateContainers();
     void removeContainers();
-    QList<QPointer<TComponentContainer>> m_containers;
-    // FormDesignerCommands.cpp: moves and sizes done, reported together.
-    void reportMoveSize(const QList<QWidget *> &controls, const QList<QRect> &before);
-    // FormDesignerClipboard.cpp
-    void readError(const QString &message, bool handled, bool raise);
-    void readLayout(const QByteArray &bytes, const QString &what);
-    QList<QWidget *> layoutControls() const;
-    // ---- end of commands, lists and clipboard ----
 
     // properties
     bool m_clearBeforeLoad = true;
@@ -459,65 +392,23 @@ private:
 
     // state
     bool m_active = false;
-    QPointer<QWidget> m_attached;             // the design control while active
-    QList<QPointer<QWidget>> m_watched;       // widgets carrying our event filter (mpEvent)
-    QSet<const QWidget *> m_watchedSet;       // the same, for the membership test
-    QObject m_watchContext;                   // receiver of the watched widgets' destroyed signals
-    QList<QPointer<QWidget>> m_controls;      // the selection; the first is the current control
-    QList<QPointer<QObject>> m_components;    // selected non-visual components
-    QPointer<QWidget> m_menuControl;
+    QPointer<QWidget> m_attached; // the design control while active
+    TDesignSelection m_selection;
+    TDragSession m_session;
+    TDesignerInput m_input;
     TGrabHandles *m_grabs = nullptr;
     TDesignOverlay *m_overlay = nullptr;
+    QPointer<QWidget> m_underlay; // paints the grid under the controls
+    QList<QPointer<TComponentContainer>> m_containers;
     QPixmap m_grabBitmap[3];
     QPixmap m_gridBitmap;
     Qt::FocusPolicy m_savedFocusPolicy = Qt::NoFocus;
     QPointer<QWidget> m_palette; // the TfrmAlignmentPalette, once made
-    QPointer<QLabel> m_hint;
     int m_lockCount = 0;
     int m_synchroLockCount = 0;
     bool m_modified = false;
     QByteArray m_ancestor;
-
-    // placing
-    QString m_placeClass;
-    QPointer<QWidget> m_placeParent;
-
-    // mouse work
-    TMouseAction m_mouseAction = maNone;
-    QPoint m_clickPos;        // design control coordinates
-    QPoint m_cursorPos;       // design control coordinates
-    QPoint m_dragPoint;       // design control coordinates
-    QRect m_controlRect;      // the current control's bounds at the start (its parent's coordinates)
-    QRect m_dragRect;         // the drag frame (parent's coordinates)
-    QList<QRect> m_dragRects; // frames of every dragged control (their parents' coordinates)
-    QRect m_selectRect;       // rubber band (design control coordinates)
-    QRect m_placeRect;        // placing frame (design control coordinates)
-    TGrabPosition m_dragHandle = gpNone;
-    // The last event handled, so that a mouse or key event passed on to a
-    // parent widget is not handled a second time there.
-    int m_lastEventType = 0;
-    quint64 m_lastEventTime = 0;
-    QPoint m_lastEventGlobal;
-    int m_lastEventKey = 0;
-    QPoint m_lastClickPos;    // for double clicks: where the preceding click was
-    QPointer<QWidget> m_lastClickControl;
-    bool m_dragStarted = false;
-
-    // drag state (FormDesignerDrag.cpp, FormDesignerGrid.cpp, DesignOverlay.cpp)
-    QList<QPointer<QWidget>> m_dragControls; // the moved or sized controls, in step with m_dragRects
-    QList<QRect> m_dragOrigins;              // their bounds when the drag started
-    QPointer<QWidget> m_selectParent;        // the container whose children the rubber band selects
-    QPointer<QWidget> m_underlay;            // paints the grid under the controls
-    QPoint designOrigin(const QWidget *widget) const;
-    QPoint messageDesignPos(const TDesignMessage &msg) const;
-    void sizeLimits(QWidget *control, QPoint &minSize, QPoint &maxSize) const;
-    QRect limitedRect(QWidget *control, const QRect &r, const QRect &old, TGrabPosition handle,
-                      bool keepInside) const;
-    void dragTo(QPoint designPos, Qt::KeyboardModifiers shift);
-    void finishDrag();
-    void finishSelecting(Qt::KeyboardModifiers shift);
-    void finishPlacing(Qt::KeyboardModifiers shift);
-    void resetMouseAction();
+    QString m_placeClass; // the class the placing tool is armed with
 };
 
 // The component that forms carry: publishes everything above.

@@ -216,11 +216,7 @@ void TCustomFormDesigner::PasteFromClipboard()
     TReadContext ctx;
     ctx.owner = ParentForm();
     ctx.parent = target;
-    ctx.onError = [this, &reported](const QString &message, bool &handled) {
-        reported << message;
-        if (OnReadError)
-            OnReadError(this, message, handled);
-    };
+    ctx.onError = reportingTo(&reported);
     ctx.onCreated = [&created](QWidget *w) { created << w; };
     QString error;
     const QList<QWidget *> tops = readComponents(buffer, ctx, &error);
@@ -233,7 +229,7 @@ void TCustomFormDesigner::PasteFromClipboard()
 
     for (QWidget *w : tops) {
         if (m_active)
-            watchWidget(w);
+            m_input.watch(w);
         showIfVisible(w);
     }
     if (OnPasteComponent)
@@ -243,7 +239,7 @@ void TCustomFormDesigner::PasteFromClipboard()
     for (QWidget *w : tops)
         AddControl(w);
     if (m_overlay)
-        m_overlay->raise();
+        m_overlay->keepOnTop();
     UpdateGrabs();
     DoChange();
 }
@@ -264,11 +260,7 @@ void TCustomFormDesigner::LoadComponentFromStream(QIODevice &stream, QWidget *co
     QStringList reported;
     TReadContext ctx;
     ctx.owner = Components::owner(component) ? Components::owner(component) : ParentForm();
-    ctx.onError = [this, &reported](const QString &message, bool &handled) {
-        reported << message;
-        if (OnReadError)
-            OnReadError(this, message, handled);
-    };
+    ctx.onError = reportingTo(&reported);
     QString error;
     const bool ok = readInto(stream, component, ctx, &error);
     if (!ok) {
@@ -276,8 +268,8 @@ void TCustomFormDesigner::LoadComponentFromStream(QIODevice &stream, QWidget *co
             throw EFormDesigner(error);
         readError(error, false, true);
     }
-    if (m_active && isInDesignControl(component))
-        watchWidget(component);
+    if (m_active && m_input.isInDesignControl(component))
+        m_input.watch(component);
     UpdateGrabs();
     DoChange();
 }
@@ -301,6 +293,15 @@ void TCustomFormDesigner::SetComponentProperties(QObject *component, const QStri
 }
 
 // ---- whole layouts ----
+
+std::function<void(const QString &, bool &)> TCustomFormDesigner::reportingTo(QStringList *reported)
+{
+    return [this, reported](const QString &message, bool &handled) {
+        *reported << message;
+        if (OnReadError)
+            OnReadError(this, message, handled);
+    };
+}
 
 void TCustomFormDesigner::readError(const QString &message, bool handled, bool raise)
 {
@@ -361,21 +362,17 @@ void TCustomFormDesigner::readLayout(const QByteArray &bytes, const QString &wha
     TReadContext ctx;
     ctx.owner = ParentForm();
     ctx.parent = surface;
-    ctx.onError = [this, &reported](const QString &message, bool &handled) {
-        reported << message;
-        if (OnReadError)
-            OnReadError(this, message, handled);
-    };
+    ctx.onError = reportingTo(&reported);
     const QList<QWidget *> tops = readComponents(buffer, ctx, &error);
     if (!error.isEmpty())
         fail(error, reported.contains(error));
     for (QWidget *w : tops) {
         if (m_active)
-            watchWidget(w);
+            m_input.watch(w);
         showIfVisible(w);
     }
     if (m_overlay)
-        m_overlay->raise();
+        m_overlay->keepOnTop();
     UpdateGrabs();
     if (!tops.isEmpty())
         DoChange();
@@ -566,14 +563,14 @@ void TCustomFormDesigner::LoadFromFile(const QString &fileName)
             continue;
         if (e.created) {
             if (m_active)
-                watchWidget(e.widget);
+                m_input.watch(e.widget);
             showIfVisible(e.widget);
         }
         if (OnLoadControl)
             OnLoadControl(this, e.widget, ini);
     }
     if (m_overlay)
-        m_overlay->raise();
+        m_overlay->keepOnTop();
     UpdateGrabs();
     DoChange();
 }

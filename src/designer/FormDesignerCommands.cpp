@@ -166,7 +166,7 @@ void TCustomFormDesigner::reportMoveSize(const QList<QWidget *> &controls, const
         DoChange();
     UpdateGrabs();
     if (m_overlay)
-        m_overlay->update();
+        m_overlay->refresh();
 }
 
 void TCustomFormDesigner::AlignToGrid()

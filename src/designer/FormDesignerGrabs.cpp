@@ -38,13 +38,13 @@ void TCustomFormDesigner::UpdateGrabs()
 {
     if (!m_active || !m_grabs)
         return;
-    m_controls.removeIf([](const QPointer<QWidget> &c) { return c.isNull(); });
+    m_selection.purge();
     QWidget *current = currentControl();
-    const bool show = m_controls.size() == 1 && current && !IsProtected(current);
+    const bool show = m_selection.count() == 1 && current && !IsProtected(current);
     m_grabs->Update(show ? current : nullptr, !show);
     if (m_overlay) {
-        m_overlay->raise(); // stays above a control brought to the front
-        m_overlay->update();
+        m_overlay->keepOnTop();
+        m_overlay->refresh();
     }
 }
 
@@ -84,8 +84,13 @@ void TGrabHandle::place(QWidget *parent, const QRect &rect, bool locked, bool vi
         clearMask();
     }
     setVisible(visible && !clipped.isEmpty());
-    if (visible)
+    if (visible) {
         raise();
+        // Below the overlay, which would otherwise have to be raised again,
+        // and raising it repaints the whole design control.
+        if (auto *overlay = parent ? parent->findChild<TDesignOverlay *>(QString(), Qt::FindDirectChildrenOnly) : nullptr)
+            stackUnder(overlay);
+    }
     update();
 }
 

@@ -96,8 +96,10 @@ void TCustomFormDesigner::applyDesignBackground()
     if (!dc)
         return;
     const bool shown = m_displayGrid || !m_designerColor.isNone();
-    if (shown && !m_underlay)
+    if (shown && !m_underlay) {
         m_underlay = new TDesignUnderlay(this, dc);
+        m_input.exclude(m_underlay);
+    }
     if (m_underlay) {
         m_underlay->setVisible(shown);
         m_underlay->lower();

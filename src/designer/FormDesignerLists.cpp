@@ -79,7 +79,7 @@ void TCustomFormDesigner::listsChanged()
         return;
     UpdateGrabs();
     if (m_overlay)
-        m_overlay->update();
+        m_overlay->refresh();
 }
 
 // ---- tests ----

@@ -12,6 +12,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "DirectionsDialog.h"
 #include "UserDialogs.h"
 
 namespace {
@@ -48,19 +49,6 @@ QListWidget *sortedList(const QString &name, QWidget *parent)
     list->setObjectName(name);
     list->setSortingEnabled(true);
     return list;
-}
-
-QDialogButtonBox *okCancel(QDialog *dialog)
-{
-    auto *buttons = new QDialogButtonBox(dialog);
-    QPushButton *ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
-    ok->setObjectName(QStringLiteral("btnOK"));
-    ok->setDefault(true);
-    QPushButton *cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("btnCancel"));
-    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
-    return buttons;
 }
 
 } // namespace
@@ -127,7 +115,7 @@ TfrmFDEditor::TfrmFDEditor(QWidget *parent)
     layout->addWidget(choiceBox, 0, 0, 1, 2);
     layout->addWidget(m_stack, 1, 0);
     layout->addLayout(editButtons, 1, 1);
-    layout->addWidget(okCancel(this), 2, 0, 1, 2);
+    layout->addWidget(okCancelButtons(this), 2, 0, 1, 2);
     layout->setRowStretch(1, 1);
     m_stack->setMinimumSize(220, 180);
 
@@ -254,7 +242,7 @@ TfrmFDAdd::TfrmFDAdd(QWidget *parent)
     layout->addWidget(label, 0, 0);
     layout->addWidget(m_names, 1, 0);
     layout->addLayout(side, 1, 1);
-    layout->addWidget(okCancel(this), 2, 0, 1, 2);
+    layout->addWidget(okCancelButtons(this), 2, 0, 1, 2);
     layout->setRowStretch(1, 1);
 }
 

@@ -24,12 +24,12 @@ public:
     void setLists(const QStringList &locked, const QStringList &protectedNames, const QStringList &transparent);
     QStringList list(TListType type) const;
     void setCurrentList(TListType type);
-    TListType currentList() const;
 
     // The names of the design control's controls, offered by "Add...".
     std::function<QStringList()> availableNames;
 
 private:
+    TListType currentList() const;
     QListWidget *shownList() const;
     void addNames();
     void deleteSelected();

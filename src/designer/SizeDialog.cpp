@@ -2,15 +2,8 @@
 
 #include <QApplication>
 #include <QButtonGroup>
-#include <QDialogButtonBox>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <climits>
 
@@ -32,69 +25,45 @@ bool isSizeText(const QString &text)
 // and drops that bring in other characters.
 const char *const kAcceptedText = "ferolithAcceptedText";
 
-QGroupBox *directionBox(const QString &title, const QString &name, const QStringList &items,
-                        QButtonGroup *group, QLineEdit *edit, QWidget *parent)
+// Reads a size as typed; more digits than an int holds give INT_MAX, and
+// anything that is not a number (which the edits never let in) gives 0.
+int sizeFromText(const QString &text)
 {
-    auto *box = new QGroupBox(title, parent);
-    box->setObjectName(name);
-    auto *layout = new QGridLayout(box);
-    for (int i = 0; i < items.size(); ++i) {
-        auto *button = new QRadioButton(items.at(i), box);
-        button->setObjectName(name + QString::number(i));
-        group->addButton(button, i);
-        layout->addWidget(button, i, 0, 1, i == smValue ? 1 : 2);
+    const QString whole = text.section(QLatin1Char('.'), 0, 0);
+    if (whole.isEmpty())
+        return 0;
+    qint64 value = 0;
+    for (QChar c : whole) {
+        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+            return 0;
+        value = value * 10 + (c.unicode() - '0');
+        if (value > INT_MAX)
+            return INT_MAX;
     }
-    edit->setParent(box);
-    layout->addWidget(edit, smValue, 1);
-    layout->setColumnStretch(1, 1);
-    group->button(smNoChange)->setChecked(true);
-    return box;
+    return int(value);
 }
 
 } // namespace
 
 TfrmSize::TfrmSize(QWidget *parent)
-    : QDialog(parent)
+    : TDirectionsDialog(parent, QStringLiteral("frmSize"), QStringLiteral("Size"))
     , m_widthGroup(new QButtonGroup(this))
     , m_heightGroup(new QButtonGroup(this))
     , m_widthEdit(new QLineEdit)
     , m_heightEdit(new QLineEdit)
 {
-    setObjectName(QStringLiteral("frmSize"));
-    setWindowTitle(QStringLiteral("Size"));
-    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-
     m_widthEdit->setObjectName(QStringLiteral("edtWidth"));
     m_heightEdit->setObjectName(QStringLiteral("edtHeight"));
-
-    QGroupBox *widthBox = directionBox(QStringLiteral("Width"), QStringLiteral("rgWidth"),
-                                       {QStringLiteral("&No change"), QStringLiteral("&Shrink to smallest"),
-                                        QStringLiteral("&Grow to largest"), QStringLiteral("Width:")},
-                                       m_widthGroup, m_widthEdit, this);
-    QGroupBox *heightBox = directionBox(QStringLiteral("Height"), QStringLiteral("rgHeight"),
-                                        {QStringLiteral("No &change"), QStringLiteral("Shrin&k to smallest"),
-                                         QStringLiteral("Grow to &largest"), QStringLiteral("Heigh&t:")},
-                                        m_heightGroup, m_heightEdit, this);
+    addDirection(m_widthGroup, QStringLiteral("Width"), QStringLiteral("rgWidth"),
+                 {QStringLiteral("&No change"), QStringLiteral("&Shrink to smallest"),
+                  QStringLiteral("&Grow to largest"), QStringLiteral("Width:")},
+                 m_widthEdit);
+    addDirection(m_heightGroup, QStringLiteral("Height"), QStringLiteral("rgHeight"),
+                 {QStringLiteral("No &change"), QStringLiteral("Shrin&k to smallest"),
+                  QStringLiteral("Grow to &largest"), QStringLiteral("Heigh&t:")},
+                 m_heightEdit);
     setupDirection(m_widthGroup, m_widthEdit);
     setupDirection(m_heightGroup, m_heightEdit);
-
-    auto *buttons = new QDialogButtonBox(this);
-    QPushButton *ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
-    ok->setObjectName(QStringLiteral("btnOK"));
-    ok->setDefault(true);
-    QPushButton *cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("btnCancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-
-    auto *groups = new QHBoxLayout;
-    groups->addWidget(widthBox);
-    groups->addWidget(heightBox);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->addLayout(groups);
-    layout->addWidget(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void TfrmSize::setupDirection(QButtonGroup *group, QLineEdit *edit)
@@ -178,42 +147,4 @@ int TfrmSize::widthValue() const
 int TfrmSize::heightValue() const
 {
     return sizeFromText(m_heightEdit->text());
-}
-
-void TfrmSize::setWidthMode(TSizeMode mode)
-{
-    if (QAbstractButton *button = m_widthGroup->button(mode))
-        button->setChecked(true);
-}
-
-void TfrmSize::setHeightMode(TSizeMode mode)
-{
-    if (QAbstractButton *button = m_heightGroup->button(mode))
-        button->setChecked(true);
-}
-
-void TfrmSize::setWidthValue(int value)
-{
-    m_widthEdit->setText(QString::number(qMax(0, value)));
-}
-
-void TfrmSize::setHeightValue(int value)
-{
-    m_heightEdit->setText(QString::number(qMax(0, value)));
-}
-
-int TfrmSize::sizeFromText(const QString &text)
-{
-    const QString whole = text.section(QLatin1Char('.'), 0, 0);
-    if (whole.isEmpty())
-        return 0;
-    qint64 value = 0;
-    for (QChar c : whole) {
-        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
-            return 0;
-        value = value * 10 + (c.unicode() - '0');
-        if (value > INT_MAX)
-            return INT_MAX;
-    }
-    return int(value);
 }

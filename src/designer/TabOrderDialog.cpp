@@ -12,6 +12,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "DirectionsDialog.h"
+
 namespace {
 
 // The index of the entry's control in m_controls. Only plain data goes into
@@ -156,14 +158,7 @@ TfrmTabOrder::TfrmTabOrder(QWidget *parent)
     connect(m_up, &QToolButton::clicked, this, [this] { moveSelected(-1); });
     connect(m_down, &QToolButton::clicked, this, [this] { moveSelected(+1); });
 
-    auto *buttons = new QDialogButtonBox(this);
-    m_ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
-    m_ok->setObjectName(QStringLiteral("btnOK"));
-    m_ok->setDefault(true);
-    QPushButton *cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("btnCancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QDialogButtonBox *buttons = okCancelButtons(this, &m_ok);
 
     auto *arrows = new QVBoxLayout;
     arrows->addStretch();

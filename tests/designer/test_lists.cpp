@@ -4,10 +4,10 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStackedWidget>
 #include <QtTest>
 
 #include "ComponentContainer.h"
-#include "DesignerWidgets.h"
 #include "Label.h"
 #include "TestSupport.h"
 #include "helper_designform.h"
@@ -18,23 +18,12 @@ class TestLists : public QObject
 
 private slots:
     void qualifiedNamesMatchAlongTheOwnerChain();
-    void inverseListsTurnEveryDesignableControl();
-    void childrenFollowAsFarAsTheModeSays();
+    void inversionAndChildren();
     void protectionWithAndWithoutADesignControl();
     void editBehaviourOverridesTheLists();
     void editControlListsReplacesTheLists();
     void nonVisualComponentsAreShownByContainers();
 };
-
-namespace {
-TGrabHandle *visibleHandle(QWidget *root)
-{
-    for (TGrabHandle *h : root->findChildren<TGrabHandle *>())
-        if (h->isVisible())
-            return h;
-    return nullptr;
-}
-} // namespace
 
 void TestLists::qualifiedNamesMatchAlongTheOwnerChain()
 {
@@ -49,15 +38,11 @@ void TestLists::qualifiedNamesMatchAlongTheOwnerChain()
     auto *edit = new TMaskBtn(f.surface);
     Components::setOwner(edit, &frame);
     edit->setObjectName(QStringLiteral("Edit1"));
-    f.designer->setActive(true);
-    f.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&f.form));
+    QVERIFY(f.start());
 
-    QCOMPARE(label->objectName(), QStringLiteral("Label1"));
     f.designer->setLockedControls({QStringLiteral("form.LABEL1")});
     QVERIFY(f.designer->IsLocked(label));
     QVERIFY(!f.designer->IsLocked(button));
-
     f.designer->setLockedControls({QStringLiteral("Form.Frame.Edit1"), QStringLiteral("Other.MaskBtn1")});
     QVERIFY(f.designer->IsLocked(edit));
     QVERIFY(!f.designer->IsLocked(button)); // "Other" owns nothing here
@@ -68,97 +53,77 @@ void TestLists::qualifiedNamesMatchAlongTheOwnerChain()
 
     // The engine shows the change at once: the handles turn to locked ones.
     f.designer->AddControl(button);
-    QVERIFY(visibleHandle(&f.form));
-    QVERIFY(!visibleHandle(&f.form)->Locked());
+    QVERIFY(!handleAt(&f.form, gpLeftTop)->Locked());
     f.designer->setLockedControls({button->objectName()});
-    QVERIFY(visibleHandle(&f.form)->Locked());
+    QVERIFY(handleAt(&f.form, gpLeftTop)->Locked());
     f.designer->setLockedControls({});
-    QVERIFY(!visibleHandle(&f.form)->Locked());
-
-    // The same names serve the transparent list.
-    f.designer->setTransparentControls({QStringLiteral("Form.MaskBtn1")});
-    QVERIFY(f.designer->IsTransparent(button));
-    QVERIFY(!f.designer->IsTransparent(label));
+    QVERIFY(!handleAt(&f.form, gpLeftTop)->Locked());
 }
 
-void TestLists::inverseListsTurnEveryDesignableControl()
-{
-    DesignForm f;
-    auto *panel = f.add<TPanel>(nullptr, {10, 10, 200, 150});
-    auto *inner = f.add<TMaskBtn>(panel, {10, 10, 80, 25});
-    auto *listed = f.add<TMaskBtn>(nullptr, {300, 10, 80, 25});
-    auto *outside = new TMaskBtn(&f.form); // on the form, not on the design control
-    outside->setGeometry(620, 10, 60, 25);
-    f.designer->setActive(true);
-
-    QVERIFY(!f.designer->IsLocked(panel));
-    f.designer->setLockedInverse(true);
-    QVERIFY(f.designer->IsLocked(panel));
-    QVERIFY(f.designer->IsLocked(inner));
-    QVERIFY(f.designer->IsLocked(listed));
-    QVERIFY(!f.designer->IsLocked(outside));
-    f.designer->setLockedControls({listed->objectName()});
-    QVERIFY(!f.designer->IsLocked(listed));
-    QVERIFY(f.designer->IsLocked(inner));
-    // The design control is locked whatever the lists say.
-    QVERIFY(f.designer->IsLocked(f.surface));
-    f.designer->setLockedInverse(false);
-    QVERIFY(f.designer->IsLocked(f.surface));
-    QVERIFY(f.designer->IsLocked(listed));
-    QVERIFY(!f.designer->IsLocked(inner));
-
-    f.designer->setTransparentInverse(true);
-    QVERIFY(f.designer->IsTransparent(inner));
-    QVERIFY(f.designer->IsTransparent(f.surface));
-    QVERIFY(!f.designer->IsTransparent(outside));
-
-    // Inactive, nothing is designable and nothing locked.
-    f.designer->setActive(false);
-    QVERIFY(!f.designer->IsLocked(listed));
-}
-
-void TestLists::childrenFollowAsFarAsTheModeSays()
+void TestLists::inversionAndChildren()
 {
     DesignForm f;
     auto *panel = f.add<TPanel>(nullptr, {10, 10, 300, 250});
     auto *child = f.add<TPanel>(panel, {10, 10, 200, 150});
     auto *grandchild = f.add<TMaskBtn>(child, {10, 10, 80, 25});
+    auto *listed = f.add<TMaskBtn>(nullptr, {400, 10, 80, 25});
+    auto *outside = new TMaskBtn(&f.form); // on the form, not on the design control
+    outside->setGeometry(620, 10, 60, 25);
     f.designer->setActive(true);
 
+    // Inverted, an empty list locks every designable control, and the design
+    // control is locked whatever the lists say.
+    f.designer->setLockedInverse(true);
+    QVERIFY(f.designer->IsLocked(panel));
+    QVERIFY(f.designer->IsLocked(grandchild));
+    QVERIFY(!f.designer->IsLocked(outside));
+    f.designer->setLockedControls({listed->objectName()});
+    QVERIFY(!f.designer->IsLocked(listed));
+    QVERIFY(f.designer->IsLocked(f.surface));
+    f.designer->setLockedInverse(false);
+    QVERIFY(f.designer->IsLocked(f.surface));
+    QVERIFY(f.designer->IsLocked(listed));
+    f.designer->setTransparentInverse(true);
+    QVERIFY(f.designer->IsTransparent(grandchild));
+    QVERIFY(!f.designer->IsTransparent(outside));
+    f.designer->setTransparentInverse(false);
+
+    // Children follow their listed parent as far as the mode says.
     f.designer->setLockedControls({panel->objectName()});
     QVERIFY(f.designer->IsLocked(panel));
     QVERIFY(!f.designer->IsLocked(child));
-
     f.designer->setLockChildren(cmNormal);
     QVERIFY(f.designer->IsLocked(child));
     QVERIFY(!f.designer->IsLocked(grandchild));
-
     f.designer->setLockChildren(cmRecurse);
     QVERIFY(f.designer->IsLocked(grandchild));
-    QVERIFY(f.designer->IsLocked(child));
-
     // The transparent list has its own mode.
     f.designer->setTransparentControls({child->objectName()});
     QVERIFY(!f.designer->IsTransparent(grandchild));
     f.designer->setTransparentChildren(cmNormal);
     QVERIFY(f.designer->IsTransparent(grandchild));
     QVERIFY(!f.designer->IsTransparent(panel));
-
     // Inverted, recursion still reaches down: only the unlisted line is locked.
-    f.designer->setLockChildren(cmRecurse);
     f.designer->setLockedInverse(true);
     QVERIFY(!f.designer->IsLocked(grandchild));
-    auto *other = f.add<TMaskBtn>(nullptr, {400, 10, 80, 25});
-    QVERIFY(f.designer->IsLocked(other));
+    QVERIFY(f.designer->IsLocked(listed));
+
+    // Inactive, nothing is designable and nothing locked.
+    f.designer->setActive(false);
+    QVERIFY(!f.designer->IsLocked(listed));
 }
 
 void TestLists::protectionWithAndWithoutADesignControl()
 {
     DesignForm f;
     auto *inside = f.add<TMaskBtn>(nullptr, {10, 10, 80, 25});
-    auto *outside = new TMaskBtn(&f.form);
-    Components::setOwner(outside, &f.form);
-    AutoName(outside, &f.form);
+    const auto onForm = [&f](QWidget *w, QWidget *parent) {
+        w->setParent(parent);
+        Components::setOwner(w, &f.form);
+        AutoName(w, &f.form);
+        return w;
+    };
+    QWidget *outside = onForm(new TMaskBtn, &f.form);
     outside->setGeometry(620, 10, 60, 25);
     f.designer->setProtectedControls({inside->objectName(), outside->objectName()});
     f.designer->setActive(true);
@@ -170,20 +135,15 @@ void TestLists::protectionWithAndWithoutADesignControl()
 
     // Designing the whole form: the control placed directly on the form
     // decides for everything on it.
-    auto *formPanel = new TPanel(&f.form);
-    Components::setOwner(formPanel, &f.form);
-    AutoName(formPanel, &f.form);
+    QWidget *formPanel = onForm(new TPanel, &f.form);
     formPanel->setGeometry(610, 100, 80, 200);
-    auto *formInner = new TMaskBtn(formPanel);
-    Components::setOwner(formInner, &f.form);
-    AutoName(formInner, &f.form);
+    QWidget *formInner = onForm(new TMaskBtn, formPanel);
     f.designer->setProtectedControls({formPanel->objectName()});
     f.designer->setDesignControl(nullptr);
     QVERIFY(f.designer->Active());
     QVERIFY(f.designer->IsProtected(formPanel));
     QVERIFY(f.designer->IsProtected(formInner)); // not listed itself, and no children mode
     QVERIFY(!f.designer->IsProtected(outside));
-    QVERIFY(!f.designer->IsProtected(inside));
 
     // A protected control cannot be selected.
     f.designer->SelectAll();
@@ -206,12 +166,9 @@ void TestLists::editBehaviourOverridesTheLists()
     f.designer->setActive(true);
 
     QHash<QObject *, TEditBehaviour> behaviours;
-    QList<QObject *> asked;
     f.designer->OnEditBehaviour = [&](QObject *, QObject *component, TEditBehaviour &behaviour) {
-        asked << component;
         behaviour = behaviours.value(component, ebDefault);
     };
-
     behaviours[a] = ebLockedRuntime;
     behaviours[b] = ebProtected;
     behaviours[c] = ebDefaultRuntime;
@@ -222,7 +179,6 @@ void TestLists::editBehaviourOverridesTheLists()
     // A default kind leaves the decision to the lists.
     QVERIFY(f.designer->IsLocked(c));
     QVERIFY(f.designer->IsTransparent(c));
-
     behaviours[c] = ebTransparent;
     QVERIFY(!f.designer->IsLocked(c));
     QVERIFY(f.designer->IsTransparent(c));
@@ -233,73 +189,100 @@ void TestLists::editBehaviourOverridesTheLists()
     behaviours[f.surface] = ebTransparent;
     QVERIFY(f.designer->IsLocked(f.surface));
     QVERIFY(f.designer->IsTransparent(f.surface));
-    behaviours[f.surface] = ebDefault;
-    QVERIFY(f.designer->IsTransparent(f.surface));
     behaviours[f.surface] = ebLocked;
     QVERIFY(!f.designer->IsTransparent(f.surface));
-    behaviours.remove(f.surface);
-
-    // Nothing outside the design control is asked about.
-    asked.clear();
-    auto *outside = new TMaskBtn(&f.form);
-    QVERIFY(!f.designer->IsLocked(outside));
-    QVERIFY(!f.designer->IsTransparent(outside));
-    QVERIFY(asked.isEmpty());
 }
 
 void TestLists::editControlListsReplacesTheLists()
 {
     DesignForm f;
     auto *panel = f.add<TPanel>(nullptr, {10, 10, 200, 150});
-    auto *inner = f.add<TMaskBtn>(panel, {10, 10, 80, 25});
-    auto *other = f.add<TMaskBtn>(nullptr, {300, 10, 80, 25});
-    f.designer->setLockedControls({QStringLiteral("Gone1")});
+    f.add<TMaskBtn>(panel, {10, 10, 80, 25});
+    f.add<TMaskBtn>(nullptr, {300, 10, 80, 25});
+    f.add<TLabel>(nullptr, {300, 50, 60, 15});
+    f.designer->setLockedControls({QStringLiteral("maskbtn2"), QStringLiteral("Gone1")});
     f.designer->setProtectedControls({QStringLiteral("Kept1")});
+    f.designer->setTransparentControls({QStringLiteral("Zeta"), QStringLiteral("alpha")});
     f.designer->setActive(true);
-
     ScriptedDialogs dialogs;
-    QStringList offered;
-    // The editor opens on the transparent list and adds two of the offered names.
-    dialogs.dialogAnswers << [&](QDialog *d) {
-        auto *shown = d->findChild<QRadioButton *>(QStringLiteral("rbTransparent"));
-        if (!shown || !shown->isChecked())
-            return int(QDialog::Rejected);
-        d->findChild<QRadioButton *>(QStringLiteral("rbLocked"))->click();
-        d->findChild<QPushButton *>(QStringLiteral("btnClear"))->click();
-        d->findChild<QPushButton *>(QStringLiteral("btnAdd"))->click();
-        return int(QDialog::Accepted);
+    QStringList failures;
+    const auto expect = [&failures](const QStringList &seen, const QStringList &wanted) {
+        if (seen != wanted)
+            failures << seen.join(QLatin1Char(',')) + QStringLiteral(" instead of ") + wanted.join(QLatin1Char(','));
     };
+
+    // The "Add controls" window offers the names not yet in the list, sorted;
+    // several are picked with Ctrl, or all at once.
+    QStringList offered;
+    const auto pick = [&](const QStringList &names, bool all, const char *button) {
+        return [&offered, names, all, button](QDialog *d) {
+            auto *list = child<QListWidget>(d, "lbNames");
+            offered = texts(list);
+            for (int i = 0; i < names.size(); ++i)
+                clickItem(list, names.at(i), i == 0 ? Qt::NoModifier : Qt::ControlModifier);
+            if (all)
+                QTest::mouseClick(child<QPushButton>(d, "btnSelectAll"), Qt::LeftButton);
+            QTest::mouseClick(child<QPushButton>(d, button), Qt::LeftButton);
+            return d->result();
+        };
+    };
+
+    // The editor opens on the list asked for; each list is sorted without
+    // regard to case, and the radio buttons choose the list shown.
     dialogs.dialogAnswers << [&](QDialog *d) {
-        auto *names = d->findChild<QListWidget *>(QStringLiteral("lbNames"));
-        for (int i = 0; i < names->count(); ++i) {
-            offered << names->item(i)->text();
-            const QString name = names->item(i)->text();
-            names->item(i)->setSelected(name == inner->objectName() || name == other->objectName());
-        }
-        return int(QDialog::Accepted);
+        auto *stack = d->findChild<QStackedWidget *>();
+        auto *locked = child<QListWidget>(d, "lbLocked");
+        auto *protectedList = child<QListWidget>(d, "lbProtected");
+        auto *del = child<QPushButton>(d, "btnDelete");
+        auto *clear = child<QPushButton>(d, "btnClear");
+        if (stack->currentWidget() != child<QListWidget>(d, "lbTransparent"))
+            failures << QStringLiteral("not opened on the transparent list");
+        expect(texts(child<QListWidget>(d, "lbTransparent")), {"alpha", "Zeta"});
+        clickRadio(child<QRadioButton>(d, "rbLocked"));
+        if (stack->currentWidget() != locked)
+            failures << QStringLiteral("locked list not shown");
+        expect(texts(locked), {"Gone1", "maskbtn2"});
+
+        dialogs.dialogAnswers << pick({"Panel1", "Label1"}, false, "btnOK");
+        QTest::mouseClick(child<QPushButton>(d, "btnAdd"), Qt::LeftButton);
+        expect(offered, {"Label1", "MaskBtn1", "Panel1"}); // MaskBtn2 is there as maskbtn2
+        dialogs.dialogAnswers << pick({"MaskBtn1"}, false, "btnCancel");
+        QTest::mouseClick(child<QPushButton>(d, "btnAdd"), Qt::LeftButton);
+        expect(texts(locked), {"Gone1", "Label1", "maskbtn2", "Panel1"});
+
+        // Delete takes the chosen entry and chooses the next; Clear empties
+        // the shown list only.
+        if (del->isEnabled())
+            failures << QStringLiteral("Delete without a chosen entry");
+        clickItem(locked, QStringLiteral("Gone1"));
+        QTest::mouseClick(del, Qt::LeftButton);
+        QTest::mouseClick(del, Qt::LeftButton);
+        expect(texts(locked), {"maskbtn2", "Panel1"});
+        clickRadio(child<QRadioButton>(d, "rbProtected"));
+        QTest::mouseClick(clear, Qt::LeftButton);
+        if (protectedList->count() != 0 || clear->isEnabled() || del->isEnabled())
+            failures << QStringLiteral("Clear");
+        dialogs.dialogAnswers << pick({}, true, "btnOK");
+        QTest::mouseClick(child<QPushButton>(d, "btnAdd"), Qt::LeftButton);
+        QTest::mouseClick(child<QPushButton>(d, "btnOK"), Qt::LeftButton);
+        return d->result();
     };
     f.designer->EditControlLists(ltTransparent);
-    QCOMPARE(dialogs.unexpected, 0);
-    offered.sort();
-    QStringList expected{panel->objectName(), inner->objectName(), other->objectName()};
-    expected.sort();
-    QCOMPARE(offered, expected);
-    QStringList locked = f.designer->LockedControls();
-    locked.sort();
-    QStringList lockedExpected{inner->objectName(), other->objectName()};
-    lockedExpected.sort();
-    QCOMPARE(locked, lockedExpected);
-    QCOMPARE(f.designer->ProtectedControls(), QStringList{QStringLiteral("Kept1")});
-    QVERIFY(f.designer->IsLocked(inner));
-    QVERIFY(!f.designer->IsLocked(panel));
+    QCOMPARE(failures, QStringList());
+    QCOMPARE(f.designer->LockedControls(), (QStringList{"maskbtn2", "Panel1"}));
+    QCOMPARE(f.designer->ProtectedControls(), (QStringList{"Label1", "MaskBtn1", "MaskBtn2", "Panel1"}));
+    QCOMPARE(f.designer->TransparentControls(), (QStringList{"alpha", "Zeta"}));
+    QVERIFY(f.designer->IsLocked(panel));
 
     // Cancel keeps the lists.
-    dialogs.dialogAnswers << [&](QDialog *d) {
-        d->findChild<QPushButton *>(QStringLiteral("btnClear"))->click();
-        return int(QDialog::Rejected);
+    dialogs.dialogAnswers << [](QDialog *d) {
+        QTest::mouseClick(child<QPushButton>(d, "btnClear"), Qt::LeftButton);
+        QTest::mouseClick(child<QPushButton>(d, "btnCancel"), Qt::LeftButton);
+        return d->result();
     };
     f.designer->EditControlLists(ltLocked);
     QCOMPARE(f.designer->LockedControls().size(), 2);
+    QCOMPARE(dialogs.unexpected, 0);
 }
 
 void TestLists::nonVisualComponentsAreShownByContainers()
@@ -312,9 +295,7 @@ void TestLists::nonVisualComponentsAreShownByContainers()
     query->setProperty("designLeft", 300);
     query->setProperty("designTop", 200);
     f.designer->setShowNonVisual(false);
-    f.designer->setActive(true);
-    f.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&f.form));
+    QVERIFY(f.start());
     QVERIFY(!f.designer->FindComponentContainer(query));
 
     f.designer->setShowNonVisual(true);
@@ -322,11 +303,12 @@ void TestLists::nonVisualComponentsAreShownByContainers()
     QVERIFY(box);
     QCOMPARE(box->parentWidget(), f.surface);
     QCOMPARE(box->Component(), query);
-    QCOMPARE(box->Designer(), f.designer);
     QCOMPARE(box->pos(), QPoint(300, 200));
     QCOMPARE(box->Caption(), QStringLiteral("Query1"));
     QVERIFY(!box->Bitmap().isNull());
-    QVERIFY(f.designer->IsDesignable(box));
+    // A click selects it like a control.
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(5, 5));
+    QCOMPARE(f.designer->selection(), QList<QWidget *>{box});
 
     // Captions come from the engine's events and show only when asked for.
     f.designer->OnComponentCaption = [](QObject *, QObject *, QString &text) { text += QStringLiteral("!"); };
@@ -351,7 +333,6 @@ void TestLists::nonVisualComponentsAreShownByContainers()
     QCOMPARE(query->property("designTop").toInt(), 60);
 
     // A copy takes the controls only; the box stays selected.
-    f.designer->AddControl(box);
     f.designer->AddControl(button);
     f.designer->CopyToClipboard();
     QVERIFY(f.designer->ControlIndex(box) >= 0);
