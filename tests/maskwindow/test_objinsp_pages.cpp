@@ -106,67 +106,52 @@ void TestObjInspPages::editorStoresItsProperty_data()
                                                  << QString::fromUtf8(input) << QString::fromUtf8(property)
                                                  << QString::fromUtf8(stored);
     };
+    // Field names are taken trimmed, captions as typed.
+    row("TLabel", "LabelCaption", " Kunde: ", "Caption", " Kunde: ");
     row("TLabel", "LabelLayout", "#2", "Layout", "tlBottom");
-    row("TLabel", "LabelAlignment", "#2", "Alignment", "taCenter");
     row("TLabel", "LabelWordWrap", "click", "WordWrap", "True");
     row("TLabel", "LabelWordWrap", "click", "AutoSize", "False");
-    row("TDBLabel", "DBLabelTable", "KUNDEN", "DataSource", "KUNDEN");
-    row("TDBLabel", "DBLabelTyp", "#2", "Tag", "2");
+    row("TDBLabel", "DBLabelField", " KDNR ", "DataField", "KDNR");
+    row("TDBLabel", "DBLabelField", " KDNR ", "Caption", "KDNR");
     row("TDBLabel", "DBLabelSize", "40", "Hint", "40");
-    row("TDBLabel", "DBLabelAlignment", "#1", "Alignment", "taRightJustify");
-    row("TDBLabel", "DBLabelWordWrap", "click", "WordWrap", "True");
     row("TDBLabel", "DBLabelWordWrap", "click", "AutoSize", "False");
     row("TDBLabel", "DBLabel_BrowserEdit", "click", "BrowserEdit", "True");
     row("TDBLabel", "DBLabelCaption", "Kundenname", "HelpKeyword", "Kundenname");
+    row("TcxTextEdit", "EditFieldName", " KDNR ", "Text", "KDNR");
     row("TcxTextEdit", "EditFieldTyp", "#1", "Tag", "1");
     row("TcxTextEdit", "EditFieldSize", "12", "MaxLength", "12");
     row("TcxTextEdit", "EditPflichtfeld", "click", "TabStop", "False");
-    row("TcxTextEdit", "EditReadonly", "click", "ReadOnly", "True");
     row("TcxTextEdit", "EditCharcase", "#2", "CharCase", "ecLowerCase");
     row("TcxTextEdit", "EditMask", "##.##", "Hint", "##.##");
     row("TcxTextEdit", "EditFieldCaption", "PLZ", "HelpKeyword", "PLZ");
-    row("TcxComboBox", "ComboFieldTyp", "#3", "Tag", "3");
-    row("TcxComboBox", "ComboFieldSize", "30", "MaxLength", "30");
-    row("TcxComboBox", "ComboPflichtfeld", "click", "TabStop", "False");
-    row("TcxComboBox", "ComboReadOnly", "click", "ReadOnly", "True");
-    row("TcxComboBox", "ComboCharCase", "#1", "CharCase", "ecUpperCase");
-    row("TcxComboBox", "ComboPullDownFile", "orte", "Hint", "orte");
-    row("TcxComboBox", "ComboFieldCaption", "Ort", "HelpKeyword", "Ort");
-    row("TcxMemo", "MemoPflichtfeld", "click", "TabStop", "False");
+    row("TcxComboBox", "ComboFieldName", " ORT ", "Text", "ORT");
+    row("TcxComboBox", "ComboPullDownFile", " orte ", "Hint", " orte ");
+    row("TcxMemo", "MemoFieldname", " NOTIZ ", "Lines", "NOTIZ");
     row("TcxMemo", "MemoScrollbars", "#3", "ScrollBars", "ssBoth");
     row("TcxMemo", "MemoPlaintext", "click", "Tag", "1");
-    row("TcxMemo", "MemoFieldCaption", "Notiz", "HelpKeyword", "Notiz");
+    row("TcxDBCheckBox", "CheckFieldName", " AKTIV ", "DataField", "AKTIV");
+    row("TcxDBCheckBox", "CheckCaption", " aktiv ", "Caption", " aktiv ");
     row("TcxDBCheckBox", "CheckAlign", "#1", "Alignment", "taRightJustify");
-    row("TcxDBCheckBox", "CheckFieldCaption", "Aktiv", "HelpKeyword", "Aktiv");
     row("TBevel", "BevelShape", "#4", "Shape", "bsLeftLine");
     row("TDBGrid", "DBGridAlign", "#2", "Align", "alBottom");
-    row("TDBGrid", "DBGridReadOnly", "click", "ReadOnly", "True");
     row("TDBGrid", "DBGrid_Scrollbars", "#3", "Tag", "3");
     row("TDBGrid", "DBGrid_StructCheckBox", "click", "TabStop", "False");
     row("TShape", "Shapestyle", "#5", "Shape", "stCircle");
+    row("TcxDBPopupEdit", "LUName", " KUNDE ", "DataField", "KUNDE");
     row("TcxDBPopupEdit", "LUDatabase", "KUNDEN", "EditMask", "KUNDEN");
     row("TcxDBPopupEdit", "LUPicklist", "click", "PopupSizeable", "True");
-    row("TcxDBPopupEdit", "LUCharCase", "#1", "CharCase", "ecUpperCase");
-    row("TcxDBPopupEdit", "LUReadonly", "click", "ReadOnly", "True");
-    row("TcxDBPopupEdit", "LUNameCaption", "Kunde", "HelpKeyword", "Kunde");
     row("TImageAspect", "ImageStrechCheckBox", "click", "AutoSize", "True");
-    row("TAdvOfficePager", "OfficePagerAlign", "#5", "Align", "alClient");
     row("TAdvOfficePager", "RGOfficePagerTabP_1", "click", "TabPosition", "tpBottom");
     row("TDBRadioGroup", "EditRGDB", "ANREDE", "DataField", "ANREDE");
-    row("TDBRadioGroup", "EditRG", "Anrede", "Caption", "Anrede");
     row("TDBRadioGroup", "MemoRG", "Herr|Frau", "Items", "Herr\nFrau");
     row("TDBRadioGroup", "SpinEditRB", "2", "Columns", "2");
     row("TDBRadioGroup", "EditSizeRG", "10", "Tag", "10");
     row("TDBRadioGroup", "EditRGPflicht", "click", "TabStop", "False");
     row("TDBRadioGroup", "EditRBKeyword", "Anrede", "HelpKeyword", "Anrede");
-    row("TPanel", "PanelAlign", "#1", "Align", "alTop");
-    row("TPanel", "PanelCaption", "Kopf", "Caption", "Kopf");
-    row("TPanel", "Panel_Bevelinner", "#1", "BevelInner", "bvLowered");
     row("TPanel", "Panel_Bevelouter", "#3", "BevelOuter", "bvSpace");
     row("TPanel", "Panel_SpinEdit", "3", "BevelWidth", "3");
     row("TPanel", "Panel_BorderStyle", "#1", "BorderStyle", "bsSingle");
     row("TPanel", "Panel_Ctrl", "click", "Ctl3D", "False");
-    row("TcxDBTreeList", "TreeListAlign", "#3", "Align", "alLeft");
     row("TcxDBTreeList", "EditTreelistDB", "STATUS", "StateIndexField", "STATUS");
     row("TcxDBTreeList", "EditTreelistFields", "NAME;ORT", "Hint", "NAME;ORT");
     row("TcxDBTreeList", "EditTreelistKeyField", "ID", "KeyField", "ID");
@@ -198,12 +183,12 @@ void TestObjInspPages::editorStoresItsProperty()
     QCOMPARE(propertyValueToText(*info, info->read(control)), stored);
     QVERIFY(f.mask->Modified());
 
-    // Shown again as entered once another control of the class filled the page.
-    const QString entered = shown(w);
+    // Shown again as stored once another control of the class filled the page.
+    const QString entered = shown(w).trimmed();
     f.select({addControl(f, className)});
     QVERIFY(shown(w) != entered);
     f.select({control});
-    QCOMPARE(shown(w), entered);
+    QCOMPARE(shown(w).trimmed(), entered);
     // A flag clicked off again gives the value back.
     if (input == QLatin1String("click") && !editor.startsWith(QLatin1String("RG")) && editor != QLatin1String("LabelWordWrap")) {
         work(w, input);
