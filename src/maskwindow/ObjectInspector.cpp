@@ -6,18 +6,10 @@
 #include "FormDesigner.h"
 #include "Maske.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QFormLayout>
 #include <QFrame>
-#include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QScrollArea>
-#include <QSpinBox>
 #include <QStackedWidget>
 #include <QToolBar>
 #include <QToolButton>
@@ -50,14 +42,14 @@ QString entryText(QObject *c)
     return name + QStringLiteral(" – ") + caption;
 }
 
-QString classNameOf(const QWidget *w)
+} // namespace
+
+QString TObjInsp::classNameOf(const QWidget *w)
 {
     if (const TControl *c = TControl::from(w))
         return c->classInfo().className;
     return QString::fromLatin1(w->metaObject()->className());
 }
-
-} // namespace
 
 TObjInsp::TObjInsp(QWidget *parent)
     : QWidget(parent, Qt::Tool)
@@ -122,11 +114,7 @@ TObjInsp::TObjInsp(QWidget *parent)
     hint->setAlignment(Qt::AlignCenter);
     def->addRow(hint);
 
-    buildLabelPages();  // "TLabel", "TDBLabel"
-    buildEditPages();   // "TcxTextEdit" .. "TcxDBCheckBox"
-    buildButtonPage();  // "TMaskBtn"
-    buildGraphicPages(); // "TBevel" .. "TImageAspect"
-    buildContainerPages(); // "TAdvOfficePager" .. "TStringGrid"
+    buildPages();
     Q_ASSERT(m_notebook->count() == pageCaptions().size());
 
     m_notebook->setCurrentIndex(0);
@@ -143,19 +131,6 @@ TObjInsp::TObjInsp(QWidget *parent)
 }
 
 TObjInsp::~TObjInsp() = default;
-
-const QStringList &TObjInsp::pageCaptions()
-{
-    static const QStringList captions = {
-        QStringLiteral("Default"),        QStringLiteral("TLabel"),          QStringLiteral("TDBLabel"),
-        QStringLiteral("TcxTextEdit"),    QStringLiteral("TcxComboBox"),     QStringLiteral("TcxMemo"),
-        QStringLiteral("TcxDBCheckBox"),  QStringLiteral("TMaskBtn"),        QStringLiteral("TBevel"),
-        QStringLiteral("TDBGrid"),        QStringLiteral("TShape"),          QStringLiteral("TcxDBPopupEdit"),
-        QStringLiteral("TImageAspect"),   QStringLiteral("TAdvOfficePager"), QStringLiteral("TAdvOfficePage"),
-        QStringLiteral("TDBRadioGroup"),  QStringLiteral("TPanel"),          QStringLiteral("TcxDBTreeList"),
-        QStringLiteral("TStringGrid")};
-    return captions;
-}
 
 QString TObjInsp::currentPageCaption() const
 {
@@ -273,35 +248,8 @@ void TObjInsp::selectPage()
         return;
 
     m_updating = true;
-    fillPage(pageCaptions().at(page));
+    fillPage(*pageFor(pageCaptions().at(page)));
     m_updating = false;
-}
-
-void TObjInsp::fillPage(const QString &caption)
-{
-    using Fill = void (TObjInsp::*)(QWidget *);
-    static const QHash<QString, Fill> fills = {
-        {QStringLiteral("TLabel"), &TObjInsp::fillLabel},
-        {QStringLiteral("TDBLabel"), &TObjInsp::fillDBLabel},
-        {QStringLiteral("TcxTextEdit"), &TObjInsp::fillTextEdit},
-        {QStringLiteral("TcxComboBox"), &TObjInsp::fillComboBox},
-        {QStringLiteral("TcxMemo"), &TObjInsp::fillMemo},
-        {QStringLiteral("TcxDBCheckBox"), &TObjInsp::fillCheckBox},
-        {QStringLiteral("TMaskBtn"), &TObjInsp::fillMaskBtn},
-        {QStringLiteral("TBevel"), &TObjInsp::fillBevel},
-        {QStringLiteral("TDBGrid"), &TObjInsp::fillDBGrid},
-        {QStringLiteral("TShape"), &TObjInsp::fillShape},
-        {QStringLiteral("TcxDBPopupEdit"), &TObjInsp::fillPopupEdit},
-        {QStringLiteral("TImageAspect"), &TObjInsp::fillImage},
-        {QStringLiteral("TAdvOfficePager"), &TObjInsp::fillOfficePager},
-        {QStringLiteral("TAdvOfficePage"), &TObjInsp::fillOfficePage},
-        {QStringLiteral("TDBRadioGroup"), &TObjInsp::fillRadioGroup},
-        {QStringLiteral("TPanel"), &TObjInsp::fillPanel},
-        {QStringLiteral("TcxDBTreeList"), &TObjInsp::fillTreeList},
-        {QStringLiteral("TStringGrid"), &TObjInsp::fillStringGrid},
-    };
-    if (const Fill fill = fills.value(caption))
-        (this->*fill)(m_current);
 }
 
 void TObjInsp::markModified()
@@ -332,95 +280,4 @@ QFormLayout *TObjInsp::newPage(const QString &caption)
     scroll->setWidget(content);
     m_pageIndex.insert(caption, m_notebook->addWidget(scroll));
     return form;
-}
-
-QLineEdit *TObjInsp::addLine(QFormLayout *form, const QString &label, const QString &name)
-{
-    auto *edit = new QLineEdit;
-    edit->setObjectName(name);
-    edit->setMinimumWidth(60);
-    form->addRow(label, edit);
-    return edit;
-}
-
-QComboBox *TObjInsp::addCombo(QFormLayout *form, const QString &label, const QString &name,
-                              const QStringList &items)
-{
-    auto *combo = new QComboBox;
-    combo->setObjectName(name);
-    combo->addItems(items);
-    // Long item texts must not widen the narrow tool window.
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(6);
-    if (label.isEmpty())
-        form->addRow(combo);
-    else
-        form->addRow(label, combo);
-    return combo;
-}
-
-QSpinBox *TObjInsp::addSpin(QFormLayout *form, const QString &label, const QString &name, int min, int max)
-{
-    auto *spin = new QSpinBox;
-    spin->setObjectName(name);
-    spin->setRange(min, max);
-    spin->setMaximumWidth(90);
-    form->addRow(label, spin);
-    return spin;
-}
-
-QCheckBox *TObjInsp::addCheck(QFormLayout *form, const QString &text, const QString &name)
-{
-    auto *check = new QCheckBox(text);
-    check->setObjectName(name);
-    form->addRow(QString(), check);
-    return check;
-}
-
-QPushButton *TObjInsp::addButton(QFormLayout *form, const QString &text, const QString &name)
-{
-    auto *button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    form->addRow(QString(), button);
-    return button;
-}
-
-void TObjInsp::bind(QWidget *editor, void (TObjInsp::*handler)())
-{
-    if (auto *e = qobject_cast<QLineEdit *>(editor))
-        connect(e, &QLineEdit::textChanged, this, handler);
-    else if (auto *c = qobject_cast<QComboBox *>(editor))
-        connect(c, qOverload<int>(&QComboBox::currentIndexChanged), this, handler);
-    else if (auto *s = qobject_cast<QSpinBox *>(editor))
-        connect(s, qOverload<int>(&QSpinBox::valueChanged), this, handler);
-    else if (auto *b = qobject_cast<QAbstractButton *>(editor))
-        connect(b, &QAbstractButton::toggled, this, handler);
-    else if (auto *m = qobject_cast<QPlainTextEdit *>(editor))
-        connect(m, &QPlainTextEdit::textChanged, this, handler);
-    else
-        Q_ASSERT_X(false, "TObjInsp::bind", "editor kind without a change signal");
-}
-
-const QStringList &TObjInsp::alignItems()
-{
-    static const QStringList items = {QStringLiteral("Keine"), QStringLiteral("Oben"),   QStringLiteral("Unten"),
-                                      QStringLiteral("Links"), QStringLiteral("Rechts"), QStringLiteral("Fenster")};
-    return items;
-}
-
-const QStringList &TObjInsp::fieldTypeItems()
-{
-    static const QStringList items = {QStringLiteral("Textfeld"), QStringLiteral("Zahl"),
-                                      QStringLiteral("Datum"),    QStringLiteral("Uhrzeit"),
-                                      QStringLiteral("Währung"),  QStringLiteral("Logisch"),
-                                      QStringLiteral("Memo"),     QStringLiteral("AutoInc")};
-    return items;
-}
-
-const QStringList &TObjInsp::charCaseItems()
-{
-    static const QStringList items = {QStringLiteral("Groß/Kleinschreibung"), QStringLiteral("Großbuchstaben"),
-                                      QStringLiteral("Kleinbuchstaben")};
-    return items;
 }
