@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "AlignDialog.h"
+#include "FrmAlign.h"
 #include "AlignmentPalette.h"
 #include "ComponentContainer.h"
 #include "Containers.h"
@@ -12,7 +12,7 @@
 #include "DesignerWidgets.h"
 #include "FormDesigner.h"
 #include "ListEditorDialogs.h"
-#include "SizeDialog.h"
+#include "FrmSize.h"
 #include "TabOrderDialog.h"
 #include "UserDialogs.h"
 

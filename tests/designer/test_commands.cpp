@@ -14,7 +14,7 @@
 #include "AlignmentPalette.h"
 #include "Edits.h"
 #include "Label.h"
-#include "SizeDialog.h"
+#include "FrmSize.h"
 #include "TestSupport.h"
 #include "helper_designform.h"
 

@@ -1,4 +1,4 @@
-#include "AlignDialog.h"
+#include "FrmAlign.h"
 
 #include <QButtonGroup>
 

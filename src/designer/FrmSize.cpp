@@ -1,4 +1,4 @@
-#include "SizeDialog.h"
+#include "FrmSize.h"
 
 #include <QApplication>
 #include <QButtonGroup>
