@@ -125,6 +125,9 @@ private:
     QSpinBox *m_udnGrabSize = nullptr;
     QLineEdit *m_edtGrabSize = nullptr;
     QFrame *m_swatches[swCount] = {};
+    // Kept as TColor so that a system colour stays symbolic: clBtnFace is
+    // written back as "clBtnFace", not as today's grey.
+    TColor m_swatchColors[swCount];
     QToolButton *m_swatchButtons[swCount] = {};
 
     QRadioButton *m_DBLocal = nullptr;

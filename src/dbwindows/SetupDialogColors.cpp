@@ -6,13 +6,6 @@
 #include <QFrame>
 #include <QPalette>
 #include <QToolButton>
-#include <QVariant>
-
-namespace {
-// The swatch keeps the colour as a TColor so that a system colour stays
-// symbolic: clBtnFace is written back as "clBtnFace", not as today's grey.
-const char *const kColorProperty = "swatchColor";
-} // namespace
 
 const TfrmSetup::SwatchDef TfrmSetup::s_swatches[swCount] = {
     {"GridColor", "GridColor", Colors::clBlack, &TCustomFormDesigner::GridColor,
@@ -59,13 +52,13 @@ QToolButton *TfrmSetup::createSwatchButton(Swatch swatch)
 
 TColor TfrmSetup::swatchColor(Swatch swatch) const
 {
-    return m_swatches[swatch]->property(kColorProperty).value<TColor>();
+    return m_swatchColors[swatch];
 }
 
 void TfrmSetup::setSwatchColor(Swatch swatch, TColor color)
 {
     QFrame *panel = m_swatches[swatch];
-    panel->setProperty(kColorProperty, QVariant::fromValue(color));
+    m_swatchColors[swatch] = color;
     QPalette palette = panel->palette();
     palette.setColor(QPalette::Window, color.toQColor());
     panel->setPalette(palette);
