@@ -83,8 +83,8 @@ private:
         const char *name;    // pnl<name>, btn<name>
         const char *iniKey;
         TColor initial;
-        TColor (TCustomFormDesigner::*get)() const;
-        void (TCustomFormDesigner::*set)(TColor);
+        TColor (*get)(const TCustomFormDesigner &);
+        void (*set)(TCustomFormDesigner &, TColor);
     };
     static const SwatchDef s_swatches[swCount];
 

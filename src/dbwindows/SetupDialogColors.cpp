@@ -8,22 +8,22 @@
 #include <QToolButton>
 
 const TfrmSetup::SwatchDef TfrmSetup::s_swatches[swCount] = {
-    {"GridColor", "GridColor", Colors::clBlack, &TCustomFormDesigner::GridColor,
-     &TCustomFormDesigner::setGridColor},
-    {"DesignerColor", "DesignerColor", Colors::clBtnFace, &TCustomFormDesigner::DesignerColor,
-     &TCustomFormDesigner::setDesignerColor},
-    {"MFill", "MFillColor", Colors::clGray, &TCustomFormDesigner::MultiGrabFill,
-     &TCustomFormDesigner::setMultiGrabFill},
-    {"MBorder", "MBorderColor", Colors::clGray, &TCustomFormDesigner::MultiGrabBorder,
-     &TCustomFormDesigner::setMultiGrabBorder},
-    {"LFill", "LFillColor", Colors::clGray, &TCustomFormDesigner::LockedGrabFill,
-     &TCustomFormDesigner::setLockedGrabFill},
-    {"LBorder", "LBorderColor", Colors::clBlack, &TCustomFormDesigner::LockedGrabBorder,
-     &TCustomFormDesigner::setLockedGrabBorder},
-    {"NFill", "NFillColor", Colors::clBlack, &TCustomFormDesigner::NormalGrabFill,
-     &TCustomFormDesigner::setNormalGrabFill},
-    {"NBorder", "NBorderColor", Colors::clBlack, &TCustomFormDesigner::NormalGrabBorder,
-     &TCustomFormDesigner::setNormalGrabBorder},
+    {"GridColor", "GridColor", Colors::clBlack, [](const TCustomFormDesigner &d) { return d.GridColor(); },
+     [](TCustomFormDesigner &d, TColor c) { d.setGridColor(c); }},
+    {"DesignerColor", "DesignerColor", Colors::clBtnFace, [](const TCustomFormDesigner &d) { return d.DesignerColor(); },
+     [](TCustomFormDesigner &d, TColor c) { d.setDesignerColor(c); }},
+    {"MFill", "MFillColor", Colors::clGray, [](const TCustomFormDesigner &d) { return d.MultiGrabFill(); },
+     [](TCustomFormDesigner &d, TColor c) { d.setMultiGrabFill(c); }},
+    {"MBorder", "MBorderColor", Colors::clGray, [](const TCustomFormDesigner &d) { return d.MultiGrabBorder(); },
+     [](TCustomFormDesigner &d, TColor c) { d.setMultiGrabBorder(c); }},
+    {"LFill", "LFillColor", Colors::clGray, [](const TCustomFormDesigner &d) { return d.LockedGrabFill(); },
+     [](TCustomFormDesigner &d, TColor c) { d.setLockedGrabFill(c); }},
+    {"LBorder", "LBorderColor", Colors::clBlack, [](const TCustomFormDesigner &d) { return d.LockedGrabBorder(); },
+     [](TCustomFormDesigner &d, TColor c) { d.setLockedGrabBorder(c); }},
+    {"NFill", "NFillColor", Colors::clBlack, [](const TCustomFormDesigner &d) { return d.NormalGrabFill(); },
+     [](TCustomFormDesigner &d, TColor c) { d.setNormalGrabFill(c); }},
+    {"NBorder", "NBorderColor", Colors::clBlack, [](const TCustomFormDesigner &d) { return d.NormalGrabBorder(); },
+     [](TCustomFormDesigner &d, TColor c) { d.setNormalGrabBorder(c); }},
 };
 
 QFrame *TfrmSetup::createSwatch(Swatch swatch)
@@ -74,7 +74,7 @@ void TfrmSetup::chooseColor(Swatch swatch)
                                            mbOK);
         return;
     }
-    const TColor preset = (designer->*s_swatches[swatch].get)();
+    const TColor preset = s_swatches[swatch].get(*designer);
     if (const std::optional<TColor> chosen = UserDialogs::instance().colorDialog(this, preset))
         setSwatchColor(swatch, *chosen);
 }

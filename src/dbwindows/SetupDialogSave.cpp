@@ -66,7 +66,7 @@ void TfrmSetup::applyTo(TFormDesigner *designer) const
     designer->setSnapToGrid(m_chbSnapToGrid->isChecked());
     designer->setGridStep(m_udnGridStep->value());
     for (int i = 0; i < swCount; ++i)
-        (designer->*s_swatches[i].set)(swatchColor(Swatch(i)));
+        s_swatches[i].set(*designer, swatchColor(Swatch(i)));
     designer->setGrabSize(m_udnGrabSize->value());
     designer->setShowMoveSizeHint(m_chbShowHint->isChecked());
 }
