@@ -34,18 +34,24 @@ QString TSqlEngine::quoteLiteral(const QString &text)
     return QLatin1Char('\'') + quoted + QLatin1Char('\'');
 }
 
+namespace {
+// Runs sql on query, binding the values in order when there are any.
+bool runQuery(QSqlQuery &query, const QString &sql, const QVariantList &values)
+{
+    if (values.isEmpty())
+        return query.exec(sql);
+    if (!query.prepare(sql))
+        return false;
+    for (const QVariant &value : values)
+        query.addBindValue(value);
+    return query.exec();
+}
+} // namespace
+
 bool TSqlEngine::exec(const QString &sql, QString *errorMessage, const QVariantList &values)
 {
     QSqlQuery query(m_db);
-    bool ok;
-    if (values.isEmpty()) {
-        ok = query.exec(sql);
-    } else {
-        ok = query.prepare(sql);
-        for (const QVariant &value : values)
-            query.addBindValue(value);
-        ok = ok && query.exec();
-    }
+    const bool ok = runQuery(query, sql, values);
     if (!ok && errorMessage)
         *errorMessage = query.lastError().text().trimmed();
     return ok;
@@ -55,15 +61,7 @@ QVariant TSqlEngine::scalar(const QString &sql, const QVariantList &values, QStr
 {
     QSqlQuery query(m_db);
     query.setForwardOnly(true);
-    bool ok;
-    if (values.isEmpty()) {
-        ok = query.exec(sql);
-    } else {
-        ok = query.prepare(sql);
-        for (const QVariant &value : values)
-            query.addBindValue(value);
-        ok = ok && query.exec();
-    }
+    const bool ok = runQuery(query, sql, values);
     if (!ok) {
         if (errorMessage)
             *errorMessage = query.lastError().text().trimmed();
