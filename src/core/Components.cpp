@@ -186,27 +186,6 @@ int componentIndex(const QObject *component)
     return reg ? int(reg->items().indexOf(const_cast<QObject *>(component))) : -1;
 }
 
-void reorder(const QObject *owner, const QList<QObject *> &ordered)
-{
-    auto *reg = registryOf(owner, false);
-    if (!reg)
-        return;
-    QSet<QObject *> wanted;
-    for (QObject *c : ordered)
-        if (Components::owner(c) == owner)
-            wanted.insert(c);
-    QList<QObject *> &items = reg->items();
-    QList<int> places;
-    for (int i = 0; i < items.size(); ++i)
-        if (wanted.contains(items.at(i)))
-            places.append(i);
-    int k = 0;
-    for (QObject *c : ordered) {
-        if (k < places.size() && wanted.remove(c)) // each goes into one place only
-            items[places.at(k++)] = c;
-    }
-}
-
 QObject *findComponent(const QObject *owner, const QString &name)
 {
     if (name.isEmpty())

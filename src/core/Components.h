@@ -19,10 +19,6 @@ QList<QObject *> components(const QObject *owner);
 int componentCount(const QObject *owner);
 int componentIndex(const QObject *component);
 
-// Puts these components of owner into the given order, in the places they
-// hold among the owner's components; the others keep theirs.
-void reorder(const QObject *owner, const QList<QObject *> &ordered);
-
 // The owned component with this name; names match without regard to case.
 QObject *findComponent(const QObject *owner, const QString &name);
 

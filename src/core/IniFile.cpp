@@ -274,12 +274,6 @@ bool TMemIniFile::sectionExists(const QString &section) const
     return findSection(section) != nullptr;
 }
 
-int TMemIniFile::sectionPosition(const QString &section) const
-{
-    const auto it = m_sectionIndex.constFind(Name{section});
-    return it == m_sectionIndex.cend() ? -1 : *it;
-}
-
 bool TMemIniFile::valueExists(const QString &section, const QString &key) const
 {
     const Section *s = findSection(section);

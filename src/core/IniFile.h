@@ -49,7 +49,6 @@ public:
     bool valueExists(const QString &section, const QString &key) const;
     // Where the section stands among the sections (a later one has a larger
     // number); -1 when there is none.
-    int sectionPosition(const QString &section) const;
 
     QString readString(const QString &section, const QString &key, const QString &defaultValue) const;
     qint32 readInteger(const QString &section, const QString &key, qint32 defaultValue) const;

@@ -128,7 +128,6 @@ T *TControlReader::create(const QString &section, const QString &fixedName)
     w->setParent(parentFor(section, w));
     w->show();
     m_controls.append(w);
-    m_sections.insert(w, section);
     return w;
 }
 
@@ -419,17 +418,9 @@ void TControlReader::LoadView(const QString &viewSection)
 
 void TControlReader::finish()
 {
-    // The mask's component order follows the file, so saving a loaded mask
-    // writes its sections in the order they were read.
-    QList<QObject *> ordered;
-    ordered.reserve(m_controls.size());
-    for (QWidget *w : std::as_const(m_controls))
-        ordered.append(w);
-    std::stable_sort(ordered.begin(), ordered.end(), [&](QObject *a, QObject *b) {
-        return m_ini.sectionPosition(m_sections.value(static_cast<QWidget *>(a)))
-               < m_ini.sectionPosition(m_sections.value(static_cast<QWidget *>(b)));
-    });
-    Components::reorder(m_mask, ordered);
-
+    // The controls keep the order they were made in (kind by kind, by
+    // number), which is the order their names were given in and the order
+    // saving numbers them: a Parent key read back names the same control.
+    // Tab orders go to their stored places now, all at once.
     ControlLayout::endLoading(m_controls);
 }

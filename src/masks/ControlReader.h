@@ -73,5 +73,4 @@ private:
     TMaskDocument *m_mask;
     const TMemIniFile &m_ini;
     QList<QWidget *> m_controls;
-    QHash<QWidget *, QString> m_sections; // control -> the section it came from
 };

@@ -20,14 +20,6 @@ public:
     using TLabel::TLabel;
 };
 
-QStringList keysOf(const QStringList &lines)
-{
-    QStringList keys;
-    for (const QString &line : lines)
-        keys << line.section(QLatin1Char('='), 0, 0);
-    return keys;
-}
-
 QStringList sectionNames(const QString &text)
 {
     QStringList out;
@@ -43,112 +35,9 @@ class TestSaving : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyKindWritesItsKeysInOrder();
     void visitingOrderAndNumbering();
     void pickListsAndSortLines();
 };
-
-void TestSaving::everyKindWritesItsKeysInOrder()
-{
-    Fixture home;
-    TMaskDocument *mask = home.newDocument();
-    makePager(mask);
-    make<TPanel>(mask);
-    make<TLabel>(mask);
-    make<TDBLabel>(mask);
-    make<TcxTextEdit>(mask);
-    make<TcxComboBox>(mask);
-    make<TcxDBPopupEdit>(mask);
-    make<TcxMemo>(mask);
-    make<TcxDBCheckBox>(mask);
-    make<TBevel>(mask);
-    make<TImageAspect>(mask);
-    make<TShape>(mask);
-    make<TMaskBtn>(mask);
-    make<TDBGrid>(mask);
-    make<TcxDBTreeList>(mask);
-    make<TStringGrid>(mask);
-    make<TDBRadioGroup>(mask);
-    makePreview(mask);
-    make<TDBGrid>(mask); // a second grid
-
-    const QString text = savedText(mask);
-    QCOMPARE(sectionNames(text),
-             QStringList({"Datenbank", "Style", "PageControl_1", "Page_1", "Page_2", "Panel_1", "Label_1",
-                          "DBLabel_1", "Field_1", "Sort", "CField_1", "LField_1", "Memo_1", "CheckBox_1", "Bevel_1",
-                          "Image_1", "Shape_1", "Button_1", "Browser", "DBTreeList_1", "StringGrid_1",
-                          "DBRadioGroup_1", "View", "Tab", "DBBrowser_1"}));
-    // Both spellings of the header are one section.
-    QCOMPARE(keysOf(sectionLines(text, "Datenbank")),
-             QStringList({"Tabelle", "Titel", "Typ", "Pixel", "Height", "Width"}));
-    QCOMPARE(keysOf(sectionLines(text, "Style")),
-             QStringList({"BorderStyle", "ButtonStyle", "ButtonTrans", "Color", "Shadow", "Hottrack", "EdgeLeft",
-                          "EdgeRight", "EdgeTop", "EdgeBottom"}));
-
-    const QStringList font = {"FName", "FSize", "FColor", "FStyle"};
-    const QStringList colourFirst = {"FColor", "FName", "FontSize", "FStyle"};
-    const QStringList box = {"Left", "Top", "Height", "Width"};
-    QCOMPARE(keysOf(sectionLines(text, "PageControl_1")),
-             QStringList({"Parent", "Style", "Alignment"}) + box + QStringList({"TabPos", "ActivePage"}) + colourFirst);
-    QCOMPARE(keysOf(sectionLines(text, "Page_2")), QStringList({"Parent", "Pageindex", "Name"}));
-    QCOMPARE(sectionLines(text, "Page_2"), QStringList({"Parent=AdvOfficePager1", "Pageindex=1", "Name=Seite2"}));
-    QCOMPARE(keysOf(sectionLines(text, "Panel_1")),
-             QStringList({"Parent", "Name"}) + box
-                 + QStringList({"BWidth", "PColor", "BInner", "BOuter", "BStyle", "Ctl3D"}) + font
-                 + QStringList({"Alignment"}));
-    QCOMPARE(keysOf(sectionLines(text, "Label_1")),
-             QStringList({"Parent", "Name"}) + box + colourFirst + QStringList({"WordWrap", "Layout", "Alignment"}));
-    QCOMPARE(keysOf(sectionLines(text, "DBLabel_1")),
-             QStringList({"Parent", "Name", "DB", "Desc", "Typ", "Laenge"}) + box + colourFirst
-                 + QStringList({"WordWrap", "Alignment", "BrowserEdit"}));
-    QCOMPARE(keysOf(sectionLines(text, "Field_1")),
-             QStringList({"Parent", "Name", "Desc", "MaskEdit", "Left", "Top", "Laenge", "Typ", "Height", "Width",
-                          "Color", "Pflicht", "ReadOnly", "TabOrder"})
-                 + font + QStringList({"CharCase"}));
-    QCOMPARE(keysOf(sectionLines(text, "LField_1")),
-             QStringList({"Parent", "Name", "DataBase", "Desc", "Picklist", "Left", "Top", "Laenge", "Typ", "Height",
-                          "Width", "Color", "TabOrder", "FName", "FSize", "Readonly", "FColor", "FStyle",
-                          "CharCase"}));
-    QCOMPARE(keysOf(sectionLines(text, "CField_1")),
-             QStringList({"Parent", "Name", "Desc", "Left", "Top", "Laenge", "Typ", "Height", "Width", "Color",
-                          "TabOrder", "PullDown", "Pflicht", "Readonly"})
-                 + font);
-    QCOMPARE(keysOf(sectionLines(text, "Memo_1")),
-             QStringList({"Parent", "Name", "Desc"}) + box + QStringList({"Color"}) + font
-                 + QStringList({"TabOrder", "Pflicht", "Plaintext", "Scrollbars"}));
-    QCOMPARE(keysOf(sectionLines(text, "CheckBox_1")),
-             QStringList({"Parent", "Name", "Desc", "DataField"}) + box + QStringList({"TabOrder", "Funktion"}) + font
-                 + QStringList({"Checked", "True", "False", "Alignment"}));
-    QCOMPARE(keysOf(sectionLines(text, "Bevel_1")), QStringList({"Parent"}) + box + QStringList({"Typ"}));
-    QCOMPARE(keysOf(sectionLines(text, "Image_1")), QStringList({"Parent", "Filename"}) + box);
-    QCOMPARE(keysOf(sectionLines(text, "Shape_1")),
-             QStringList({"Parent"}) + box + QStringList({"Typ", "FColor", "FPColor"}));
-    QCOMPARE(keysOf(sectionLines(text, "Button_1")),
-             QStringList({"Parent", "Name"}) + box
-                 + QStringList({"TabOrder", "PrgRun", "FName", "FSize", "Action", "FColor", "FStyle", "Ext", "ZMaske",
-                                "ZFeld", "ZFeldEx", "ZIndex", "RuleField", "RuleExpression", "RuleColor", "RuleArea",
-                                "Ext_Section", "Margin", "RunAs"}));
-    QCOMPARE(keysOf(sectionLines(text, "Browser")),
-             QStringList({"Parent"}) + box + font
-                 + QStringList({"HFName", "HFSize", "HFColor", "HFStyle", "Treelist", "ReadOnly", "Alignment",
-                                "Ausrichtung"}));
-    QCOMPARE(keysOf(sectionLines(text, "DBBrowser_1")),
-             QStringList({"Parent"}) + box
-                 + QStringList({"FName", "FSize", "Scrollbars", "FColor", "FStyle", "HFName", "HFSize", "HFColor",
-                                "HFStyle", "ReadOnly", "Alignment", "Ausrichtung", "DataBase"}));
-    QCOMPARE(keysOf(sectionLines(text, "DBTreeList_1")),
-             QStringList({"Name", "Parent", "Index", "QXID", "DBIndex", "Keyfield", "ParentField", "Felder", "DB",
-                          "Alignment", "DragDrop"})
-                 + box + font);
-    QVERIFY(sectionLines(text, "DBTreeList_1").contains("QXID=QXParent"));
-    QCOMPARE(keysOf(sectionLines(text, "StringGrid_1")),
-             QStringList({"Parent", "Name"}) + box + QStringList({"Alignment"}) + font);
-    QCOMPARE(keysOf(sectionLines(text, "DBRadioGroup_1")),
-             QStringList({"Parent", "DataField", "Laenge", "Caption", "Desc"}) + box + colourFirst
-                 + QStringList({"Pflicht", "Items", "Columns"}));
-    QCOMPARE(keysOf(sectionLines(text, "View")), QStringList({"Parent"}) + box);
-    QCOMPARE(keysOf(sectionLines(text, "Tab")), QStringList({"Parent"}) + box + font);
-}
 
 void TestSaving::visitingOrderAndNumbering()
 {
