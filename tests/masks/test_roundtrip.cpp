@@ -152,13 +152,17 @@ void TestRoundtrip::everyKeyOfEveryKind()
     QCOMPARE(panel->BevelInner(), bvLowered);
     QCOMPARE(panel->BevelOuter(), bvRaised);
     auto *edit = component<TcxTextEdit>(mask, "cxTextEdit1");
+    // An edit's field name is its text, so its character case applies to
+    // the name ("KundenNr" in the file); a lookup's bound field is not.
     QCOMPARE(edit->Text(), QStringLiteral("KUNDENNR"));
     QCOMPARE(edit->Hint(), QStringLiteral("000000"));
     QCOMPARE(edit->MaxLength(), 6);
     QVERIFY(edit->TabStop()); // "Pflicht"
     QCOMPARE(edit->CharCase(), ecUpperCase);
     QCOMPARE(edit->StyleController(), mask->cxStyleController());
-    QCOMPARE(component<TcxDBPopupEdit>(mask, "cxDBPopupEdit1")->CharCase(), ecLowerCase);
+    auto *lookup = component<TcxDBPopupEdit>(mask, "cxDBPopupEdit1");
+    QCOMPARE(lookup->CharCase(), ecLowerCase);
+    QCOMPARE(lookup->DataField(), QStringLiteral("KUNDE"));
     auto *check = component<TcxDBCheckBox>(mask, "cxDBCheckBox1");
     QCOMPARE(check->ValueChecked(), QStringLiteral("J"));
     QCOMPARE(check->ValueUnchecked(), QStringLiteral("N"));
