@@ -70,11 +70,13 @@ void TObjInsp::updateButtonRows()
     showRow(QStringLiteral("BtnZuweisFeld"), assign);
     showRow(QStringLiteral("BtnZuweisFeldEx"), assign);
     showRow(QStringLiteral("BtnIndexFeld"), assign);
-    showRow(QStringLiteral("BtnProgExt"), program);
-    showRow(QStringLiteral("BtnSectionExt"), program || section);
-    setRowLabel(QStringLiteral("BtnSectionExt"), program ? QStringLiteral("INI Sektion:")
-                                                 : kind == baIniSection ? QStringLiteral("Sektion:")
-                                                                        : QStringLiteral("Sektion Erweiterung:"));
+    // The extension field is the file extension of a program and the
+    // section extension of the other kinds that use one.
+    showRow(QStringLiteral("BtnProgExt"), program || section);
+    setRowLabel(QStringLiteral("BtnProgExt"), program ? QStringLiteral("Dateierweiterung:")
+                                              : kind == baIniSection ? QStringLiteral("Sektion:")
+                                                                     : QStringLiteral("Sektion Erweiterung:"));
+    showRow(QStringLiteral("BtnSectionExt"), program);
     showRow(QStringLiteral("BtnRunAs"), program);
     showRow(QStringLiteral("BtnZuweisRule"), kind == baList || kind == baRule);
 

@@ -209,10 +209,11 @@ void TestObjInsp::buttonPageShowsEditorsOfTheAction_data()
     QTest::newRow("assign") << 3 << assign << QString();
     QTest::newRow("list") << 4 << (assign + QStringList{QStringLiteral("BtnZuweisRule")}) << QString();
     QTest::newRow("program") << 6 << program << QStringLiteral("INI Sektion:");
+    // The others edit the extension field (ProgExt), under another label.
     for (int kind : {7, 8, 9})
-        QTest::addRow("kind %d", kind) << kind << QStringList{QStringLiteral("BtnSectionExt")}
+        QTest::addRow("kind %d", kind) << kind << QStringList{QStringLiteral("BtnProgExt")}
                                        << QStringLiteral("Sektion Erweiterung:");
-    QTest::newRow("ini") << 10 << QStringList{QStringLiteral("BtnSectionExt")} << QStringLiteral("Sektion:");
+    QTest::newRow("ini") << 10 << QStringList{QStringLiteral("BtnProgExt")} << QStringLiteral("Sektion:");
     QTest::newRow("rule") << 11 << QStringList{QStringLiteral("BtnZuweisRule")} << QString();
 }
 
@@ -238,12 +239,13 @@ void TestObjInsp::buttonPageShowsEditorsOfTheAction()
                                 QStringLiteral("BtnMargin"), QStringLiteral("BtnAction")})
         QVERIFY2(f.editor<QWidget>(name)->isVisibleTo(&f.insp), qPrintable(name));
     if (!sectionLabel.isEmpty()) {
-        // The label belongs to the section editor's row.
+        // The label belongs to the section editor's row (program) or to the
+        // extension's.
+        const QString row = kind == 6 ? QStringLiteral("BtnSectionExt") : QStringLiteral("BtnProgExt");
         const QList<QLabel *> labels = f.insp.findChildren<QLabel *>();
         bool found = false;
         for (QLabel *l : labels)
-            found = found || (l->buddy() == f.editor<QWidget>(QStringLiteral("BtnSectionExt")) &&
-                              l->text() == sectionLabel);
+            found = found || (l->buddy() == f.editor<QWidget>(row) && l->text() == sectionLabel);
         QVERIFY2(found, qPrintable(sectionLabel));
     }
     QCOMPARE(f.editor<QToolButton>(QStringLiteral("BtnZuweisMaskeBtn"))->isVisibleTo(&f.insp),
@@ -280,6 +282,11 @@ void TestObjInsp::buttonPageWritesAndPicksFiles()
     QCOMPARE(button->ProgExt(), QStringLiteral("pdf"));
     QCOMPARE(button->SectionExt(), QStringLiteral("Viewer"));
     QVERIFY(button->RunAs());
+    // An URL button's section extension is the extension field.
+    choose(f.editor<QComboBox>(QStringLiteral("BtnAction")), 7);
+    retype(f.editor<QLineEdit>(QStringLiteral("BtnProgExt")), QStringLiteral("Browser"));
+    QCOMPARE(button->ProgExt(), QStringLiteral("Browser"));
+    QCOMPARE(button->SectionExt(), QStringLiteral("Viewer"));
     QCOMPARE(f.dialogs.unexpected, 0);
 }
 
