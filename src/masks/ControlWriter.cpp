@@ -225,7 +225,9 @@ void TControlWriter::WriteCField(QWidget *w, const QString &s)
     // One block per pick-list name; the first combo box with items fills it.
     const QStringList items = combo->Items();
     const QString header = QLatin1Char('[') + combo->Hint() + QLatin1Char(']');
-    if (!items.isEmpty() && !m_pickLists.contains(header)) {
+    // Section names ignore case, so "[ANREDE]" is the block "[Anrede]".
+    if (!items.isEmpty() && !m_pickListNames.contains(combo->Hint().toCaseFolded())) {
+        m_pickListNames.insert(combo->Hint().toCaseFolded());
         m_pickLists.append(header);
         m_pickLists.append(items);
         m_pickLists.append(QString());

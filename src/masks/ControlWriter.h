@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -65,5 +66,6 @@ private:
     const TMaskDocument *m_mask;
     TMemIniFile &m_ini;
     QStringList &m_pickLists;
+    QSet<QString> m_pickListNames; // case-folded names of the blocks written
     QHash<QString, int> m_counters;
 };

@@ -90,6 +90,9 @@ void TestSaving::pickListsAndSortLines()
     c3->setHint(QStringLiteral("Leer")); // no items: no block
     c4->setHint(QStringLiteral("Länder"));
     c4->setItems({QStringLiteral("Deutschland"), QStringLiteral("Österreich")});
+    auto *c5 = make<TcxComboBox>(mask, panelA);
+    c5->setHint(QStringLiteral("ANREDEN")); // the same block
+    c5->setItems({QStringLiteral("Dr.")});
 
     const QString text = savedText(mask);
     // The blocks stand before the header, each name once, the first one's items.
@@ -99,8 +102,8 @@ void TestSaving::pickListsAndSortLines()
     QVERIFY(!text.contains(QLatin1String("[Leer]")));
     QCOMPARE(text.count(QLatin1String("[Anreden]")), 1);
     // c1 is first on panel A, c2 first on panel B: both have tab order 0,
-    // and the later one keeps the line.
-    QCOMPARE(sectionLines(text, "Sort"), QStringList({"0=1-CFeld2", "1=1-CFeld3", "2=1-CFeld4"}));
+    // and the later one keeps the line (so does c5 against c3).
+    QCOMPARE(sectionLines(text, "Sort"), QStringList({"0=1-CFeld2", "1=1-CFeld5", "2=1-CFeld4"}));
 
     // The file is Windows-1252 with CR LF.
     const QByteArray bytes = MaskWriter::MaskFileBytes(*mask);
