@@ -24,14 +24,8 @@ class TestSmallDialogs : public QObject
     Q_OBJECT
 
 private slots:
-    void sizeFormStartsAfreshOnEveryShow();
-    void sizeFormClosesWithoutValueChoices_data();
-    void sizeFormClosesWithoutValueChoices();
-    void sizeFormRefusesBadWidth_data();
-    void sizeFormRefusesBadWidth();
-    void sizeFormChecksHeightOnlyAfterTheWidth();
-    void sizeFormEditsTakeDigitsOnly();
-    void sizeFormCancelNeverComplains();
+    void sizeFormChecksTheValuesItUses();
+    void sizeFormTakesDigitsAndStartsAfresh();
     void runSizeDialogSizesTheSelection();
 
     void alignmentButtonsAlignAlongTheirAxis();
@@ -111,142 +105,78 @@ struct AlignFixture
 
 // ---- TSizeForm ----
 
-void TestSmallDialogs::sizeFormStartsAfreshOnEveryShow()
+void TestSmallDialogs::sizeFormChecksTheValuesItUses()
 {
-    TSizeForm dlg;
-    QCOMPARE(dlg.windowTitle(), QStringLiteral("Größe anpassen"));
-    QCOMPARE(child<QGroupBox>(&dlg, "HorizontalSize")->title(), QStringLiteral(" Breite "));
-    QCOMPARE(child<QGroupBox>(&dlg, "VerticalSize")->title(), QStringLiteral(" Höhe "));
-    QVERIFY(buttonWithText(&dlg, QStringLiteral("&Abbrechen")));
-
     ScriptedDialogs dialogs;
-    fillSizeForm(&dlg, {3, 3, QStringLiteral("12"), QStringLiteral("34")});
-    QCOMPARE(dlg.result(), int(QDialog::Accepted));
-    QCOMPARE(dlg.widthText(), QStringLiteral("12"));
-
-    dlg.show();
-    QCOMPARE(dlg.HorizontalIndex(), 0);
-    QCOMPARE(dlg.VerticalIndex(), 0);
-    QVERIFY(radio(&dlg, "HorizontalSize", 0)->isChecked());
-    QCOMPARE(dlg.widthText(), QStringLiteral("0"));
-    QCOMPARE(dlg.heightText(), QStringLiteral("0"));
-}
-
-void TestSmallDialogs::sizeFormClosesWithoutValueChoices_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<QString>("text");
-    for (int choice = 0; choice < 3; ++choice) {
-        QTest::addRow("choice %d, empty", choice) << choice << 2 - choice << QString();
-        QTest::addRow("choice %d, zero", choice) << choice << 2 - choice << QStringLiteral("0");
+    // A bad width: one complaint (the height is not looked at), the dialog
+    // stays with the focus on the width; put right, the same OK closes.
+    const QList<std::pair<QString, QString>> badWidths = {
+        {QStringLiteral("0"), QStringLiteral("Width must be greater than 0")},
+        {QStringLiteral("000"), QStringLiteral("Width must be greater than 0")},
+        {QString(), QStringLiteral("Invalid width entry.  Please re-enter.")}};
+    for (const auto &[typed, message] : badWidths) {
+        dialogs.messages.clear();
+        TSizeForm dlg;
+        fillSizeForm(&dlg, {3, 3, typed, QStringLiteral("0")});
+        QCOMPARE(messageTexts(dialogs), QStringList{message});
+        QCOMPARE(dialogs.messages.first().type, mtInformation);
+        QVERIFY(dlg.isVisible() && dlg.result() != QDialog::Accepted);
+        QCOMPARE(dlg.focusWidget(), child<QWidget>(&dlg, "SizeWidth"));
+        retype(child<QLineEdit>(&dlg, "SizeWidth"), QStringLiteral("7"));
+        retype(child<QLineEdit>(&dlg, "SizeHeight"), QStringLiteral("8"));
+        QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
+        QCOMPARE(dlg.result(), int(QDialog::Accepted));
+        QCOMPARE(dialogs.messages.size(), 1);
     }
-}
 
-void TestSmallDialogs::sizeFormClosesWithoutValueChoices()
-{
-    QFETCH(int, width);
-    QFETCH(int, height);
-    QFETCH(QString, text);
-    ScriptedDialogs dialogs;
-    TSizeForm dlg;
-    fillSizeForm(&dlg, {width, height, text, text});
-    QCOMPARE(dlg.result(), int(QDialog::Accepted));
-    QVERIFY(!dlg.isVisible());
-    QVERIFY(dialogs.messages.isEmpty());
-    QCOMPARE(dlg.HorizontalIndex(), width);
-    QCOMPARE(dlg.VerticalIndex(), height);
-}
-
-void TestSmallDialogs::sizeFormRefusesBadWidth_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("zero") << QStringLiteral("0") << QStringLiteral("Width must be greater than 0");
-    QTest::newRow("zeros") << QStringLiteral("000") << QStringLiteral("Width must be greater than 0");
-    QTest::newRow("empty") << QString() << QStringLiteral("Invalid width entry.  Please re-enter.");
-}
-
-void TestSmallDialogs::sizeFormRefusesBadWidth()
-{
-    QFETCH(QString, typed);
-    QFETCH(QString, message);
-    ScriptedDialogs dialogs;
-    TSizeForm dlg;
-    // The height would be refused too, but only one complaint comes up.
-    fillSizeForm(&dlg, {3, 3, typed, QStringLiteral("0")});
-
-    QCOMPARE(messageTexts(dialogs), QStringList{message});
-    QCOMPARE(dialogs.messages.first().type, mtInformation);
-    QCOMPARE(dialogs.messages.first().buttons, TMsgDlgButtons(mbOK));
-    QVERIFY(dlg.isVisible());
-    QVERIFY(dlg.result() != QDialog::Accepted);
-    QCOMPARE(dlg.widthText(), typed);
-    QCOMPARE(dlg.focusWidget(), child<QWidget>(&dlg, "SizeWidth"));
-
-    // Put right, the same OK closes.
-    retype(child<QLineEdit>(&dlg, "SizeWidth"), QStringLiteral("7"));
-    retype(child<QLineEdit>(&dlg, "SizeHeight"), QStringLiteral("8"));
-    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
-    QCOMPARE(dlg.result(), int(QDialog::Accepted));
-    QCOMPARE(dialogs.messages.size(), 1);
-}
-
-void TestSmallDialogs::sizeFormChecksHeightOnlyAfterTheWidth()
-{
-    ScriptedDialogs dialogs;
+    // The height is checked after the width.
+    dialogs.messages.clear();
     TSizeForm dlg;
     fillSizeForm(&dlg, {3, 3, QStringLiteral("25"), QStringLiteral("0")});
     QCOMPARE(messageTexts(dialogs), QStringList{QStringLiteral("Height must be greater than 0")});
-    QVERIFY(dlg.isVisible());
     QCOMPARE(dlg.focusWidget(), child<QWidget>(&dlg, "SizeHeight"));
-
     retype(child<QLineEdit>(&dlg, "SizeHeight"), QString());
     QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
     QCOMPARE(messageTexts(dialogs).last(), QStringLiteral("Invalid height entry.  Please re-enter."));
     QVERIFY(dlg.isVisible());
 
-    // A bad width is not looked at while its choice keeps the width.
+    // Values a choice does not use are not looked at, nor on cancel.
     dialogs.messages.clear();
-    clickRadio(radio(&dlg, "HorizontalSize", 1));
+    for (int choice = 0; choice < 3; ++choice) {
+        TSizeForm other;
+        fillSizeForm(&other, {choice, 2 - choice, QString(), QStringLiteral("0")});
+        QCOMPARE(other.result(), int(QDialog::Accepted));
+        QCOMPARE(other.HorizontalIndex(), choice);
+        QCOMPARE(other.VerticalIndex(), 2 - choice);
+    }
+    clickRadio(radio(&dlg, "HorizontalSize", 3));
     retype(child<QLineEdit>(&dlg, "SizeWidth"), QString());
-    retype(child<QLineEdit>(&dlg, "SizeHeight"), QStringLiteral("5"));
-    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
+    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&Abbrechen")), Qt::LeftButton);
+    QCOMPARE(dlg.result(), int(QDialog::Rejected));
     QVERIFY(dialogs.messages.isEmpty());
-    QCOMPARE(dlg.result(), int(QDialog::Accepted));
 }
 
-void TestSmallDialogs::sizeFormEditsTakeDigitsOnly()
+void TestSmallDialogs::sizeFormTakesDigitsAndStartsAfresh()
 {
+    ScriptedDialogs dialogs;
     TSizeForm dlg;
     dlg.show();
     auto *width = child<QLineEdit>(&dlg, "SizeWidth");
     retype(width, QStringLiteral("a1b2-3.,x 4"));
     QCOMPARE(width->text(), QStringLiteral("1234"));
-
-    QTest::keyClick(width, Qt::Key_Backspace);
-    QCOMPARE(width->text(), QStringLiteral("123"));
     QTest::keyClick(width, Qt::Key_Home);
     QTest::keyClick(width, Qt::Key_Right);
     QTest::keyClicks(width, QStringLiteral("9Z"));
-    QCOMPARE(width->text(), QStringLiteral("1923"));
+    QCOMPARE(width->text(), QStringLiteral("19234"));
 
-    auto *height = child<QLineEdit>(&dlg, "SizeHeight");
-    retype(height, QStringLiteral("Hoehe 40"));
-    QCOMPARE(height->text(), QStringLiteral("40"));
-}
-
-void TestSmallDialogs::sizeFormCancelNeverComplains()
-{
-    ScriptedDialogs dialogs;
-    TSizeForm dlg;
-    dlg.show();
-    clickRadio(radio(&dlg, "HorizontalSize", 3));
-    retype(child<QLineEdit>(&dlg, "SizeWidth"), QString());
-    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&Abbrechen")), Qt::LeftButton);
-    QCOMPARE(dlg.result(), int(QDialog::Rejected));
-    QVERIFY(!dlg.isVisible());
-    QVERIFY(dialogs.messages.isEmpty());
+    TSizeForm again;
+    fillSizeForm(&again, {3, 3, QStringLiteral("12"), QStringLiteral("34")});
+    QCOMPARE(again.widthText(), QStringLiteral("12"));
+    again.show();
+    QCOMPARE(again.HorizontalIndex(), 0);
+    QVERIFY(radio(&again, "HorizontalSize", 0)->isChecked());
+    QCOMPARE(again.widthText(), QStringLiteral("0"));
+    QCOMPARE(again.heightText(), QStringLiteral("0"));
 }
 
 void TestSmallDialogs::runSizeDialogSizesTheSelection()
