@@ -53,7 +53,9 @@ TDbexpl::TDbexpl(QWidget *parent)
     Grid->setHorizontalHeaderLabels({QStringLiteral("Feldname"), QStringLiteral("Typ"), QStringLiteral("Größe"),
                                      QStringLiteral("Schlüssel"), QStringLiteral("Feldbeschreibung")});
     Grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    Grid->setEditTriggers(QAbstractItemView::AllEditTriggers);
+    // Typing, F2 or a double click edits the current cell, as in a spreadsheet.
+    Grid->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked
+                          | QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
     Grid->verticalHeader()->setDefaultSectionSize(Grid->fontMetrics().height() + 8);
     Grid->horizontalHeader()->setStretchLastSection(true);
     const int digit = Grid->fontMetrics().horizontalAdvance(QLatin1Char('0'));
