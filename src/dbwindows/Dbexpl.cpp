@@ -119,7 +119,7 @@ TDbexpl::TDbexpl(QWidget *parent)
     main->addLayout(nameRow);
     main->addLayout(middle, 1);
     main->addLayout(bottom);
-    resize(sizeHint().width(), 460);
+    resize(sizeHint().width(), 540);
 }
 
 TDbexpl::~TDbexpl() = default;

@@ -332,7 +332,7 @@ QWidget *TWizard::createPage4()
     AutofillWert->setObjectName(QStringLiteral("AutofillWert"));
     connect(AutoFillFeld, &QComboBox::currentTextChanged, this, &TWizard::AutoFillFeldChange);
     connect(AutofillWert, &QComboBox::currentTextChanged, this, &TWizard::AutofillWertChange);
-    connect(AutoFill, &QListWidget::itemClicked, this, &TWizard::AutoFillClick);
+    connect(AutoFill, &QListWidget::currentRowChanged, this, &TWizard::AutoFillClick);
     return page;
 }
 
@@ -348,7 +348,7 @@ QWidget *TWizard::createPage5()
     Defaultwert->setObjectName(QStringLiteral("Defaultwert"));
     connect(DefaultFeld, &QComboBox::currentTextChanged, this, &TWizard::DefaultFeldChange);
     connect(Defaultwert, &QComboBox::currentTextChanged, this, &TWizard::DefaultwertChange);
-    connect(Default, &QListWidget::itemClicked, this, &TWizard::DefaultClick);
+    connect(Default, &QListWidget::currentRowChanged, this, &TWizard::DefaultClick);
     return page;
 }
 

@@ -111,6 +111,8 @@ void TWizard::valueChange(QListWidget *list, QComboBox *field, QComboBox *value)
         list->item(row)->setText(text);
     } else {
         list->addItem(text);
+        // Shown as chosen, without handing the entry back to the combos being typed in.
+        const QSignalBlocker block(list);
         list->setCurrentRow(list->count() - 1);
     }
 }

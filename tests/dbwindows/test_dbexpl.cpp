@@ -52,6 +52,7 @@ private Q_SLOTS:
 
         // A row error selects the offending cell; a missing name focuses the name.
         typeIntoCell(grid, 2, 1, QString());
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, cellCenter(grid, 0, 4));
         QTest::mouseClick(child<QPushButton>(&w, "CreateDB"), Qt::LeftButton);
         QVERIFY(dialogs.messages.last().text.startsWith(QStringLiteral("Fehler in Zeile: 3\n\r")));
         QCOMPARE(grid->currentRow(), 2);
