@@ -12,17 +12,47 @@ const QString kAutoFill = QStringLiteral("AutoFill");
 
 void writeEntries(TMemIniFile &ini, const QString &section, const QStringList &entries)
 {
-    for (const QString &entry : entries) {
-        const int eq = int(entry.indexOf(QLatin1Char('=')));
-        if (eq < 0)
-            ini.writeString(section, entry, QString());
-        else
-            ini.writeString(section, entry.left(eq), entry.mid(eq + 1));
-    }
+    for (const QString &entry : entries)
+        ini.writeString(section, TableDescription::entryField(entry), TableDescription::entryValue(entry));
 }
 } // namespace
 
 namespace TableDescription {
+
+QString entry(const QString &field, const QString &value)
+{
+    return field.trimmed() + QLatin1Char('=') + value;
+}
+
+QString entryField(const QString &entry)
+{
+    const int eq = int(entry.indexOf(QLatin1Char('=')));
+    return (eq < 0 ? entry : entry.left(eq)).trimmed();
+}
+
+QString entryValue(const QString &entry)
+{
+    const int eq = int(entry.indexOf(QLatin1Char('=')));
+    return eq < 0 ? QString() : entry.mid(eq + 1);
+}
+
+QString joinFields(const QStringList &fields)
+{
+    QStringList names;
+    for (const QString &field : fields)
+        if (!field.trimmed().isEmpty())
+            names << field.trimmed();
+    return names.join(QLatin1Char(','));
+}
+
+QStringList splitFields(const QString &felder)
+{
+    QStringList names;
+    for (const QString &field : felder.split(QLatin1Char(',')))
+        if (!field.trimmed().isEmpty())
+            names << field.trimmed();
+    return names;
+}
 
 QString fileName(const QString &databaseFolder, const QString &table)
 {

@@ -11,12 +11,23 @@ struct TTableSettings
     QString Index;
     QString Dateizaehler;
     QString Fokus;
-    QString Felder;
-    QStringList AutoFill; // "name=value" entries
-    QStringList Default;  // "name=value" entries
+    QString Felder;       // joinFields() of the fields filled from the counter
+    QStringList AutoFill; // entry() texts, one per field
+    QStringList Default;  // entry() texts, one per field
 };
 
 namespace TableDescription {
+
+// One auto-fill or default value as the lists hold it and the file's key
+// line reads: "field=value". The field ends at the first "=".
+QString entry(const QString &field, const QString &value);
+QString entryField(const QString &entry);
+QString entryValue(const QString &entry);
+
+// "Felder": the field names joined by commas, as "Kundennummer,Auftrag".
+QString joinFields(const QStringList &fields);
+// Blanks around names and empty names are dropped.
+QStringList splitFields(const QString &felder);
 
 // The file of a table in a database folder (the folder ends with a separator).
 // An existing file spelled ".Ini" (as older folders have it) is preferred.

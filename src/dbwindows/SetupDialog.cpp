@@ -1,5 +1,7 @@
 #include "SetupDialog.h"
 
+#include "DbConnection.h"
+#include "ServerScan.h"
 #include "UserDialogs.h"
 
 #include <QButtonGroup>
@@ -211,10 +213,7 @@ QGroupBox *TfrmSetup::createDatabaseBox()
     m_ServerNameLabel = buddyLabel(QStringLiteral("Servername:"), m_DBServerName, QStringLiteral("ServerNameLabel"));
     m_ServerScanBtn = new QPushButton(QStringLiteral("Scan Server"));
     m_ServerScanBtn->setObjectName(QStringLiteral("ServerScanBtn"));
-    connect(m_ServerScanBtn, &QPushButton::clicked, this, [this] {
-        if (onScanServer)
-            onScanServer();
-    });
+    connect(m_ServerScanBtn, &QPushButton::clicked, this, &TfrmSetup::ServerScanBtnClick);
 
     m_DBAlias = new QComboBox;
     m_DBAlias->setObjectName(QStringLiteral("DBAlias"));
@@ -224,10 +223,7 @@ QGroupBox *TfrmSetup::createDatabaseBox()
     m_ScanAlias = new QPushButton(QStringLiteral("Scan Alias"));
     m_ScanAlias->setObjectName(QStringLiteral("ScanAlias"));
     m_ScanAlias->setEnabled(false); // needs a server name first
-    connect(m_ScanAlias, &QPushButton::clicked, this, [this] {
-        if (onScanAlias)
-            onScanAlias();
-    });
+    connect(m_ScanAlias, &QPushButton::clicked, this, &TfrmSetup::ScanAliasClick);
 
     m_ScanTimeOut = new QSpinBox;
     m_ScanTimeOut->setObjectName(QStringLiteral("ScanTimeOut"));
@@ -297,6 +293,20 @@ void TfrmSetup::updateServerControls()
 void TfrmSetup::updateScanAlias()
 {
     m_ScanAlias->setEnabled(!m_DBServerName->currentText().isEmpty());
+}
+
+void TfrmSetup::ServerScanBtnClick()
+{
+    ServerScan::ScanServerBtnClick(m_DBServerName, ConnectionSettings());
+}
+
+void TfrmSetup::ScanAliasClick()
+{
+    // A server that cannot be asked leaves the list empty; say so rather than nothing.
+    if (!ServerScan::ScanAliasClick(this, m_DBServerName, m_DBAlias, ConnectionSettings())
+        && m_DBServerName->count() > 0)
+        UserDialogs::instance().messageDlg(this, TDbConnection::ConnectionErrorText(m_DBServerName->currentText()),
+                                           mtError, mbOK);
 }
 
 void TfrmSetup::browseDatabasePath()

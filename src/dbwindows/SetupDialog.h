@@ -41,9 +41,6 @@ public:
     std::function<TFormDesigner *()> activeDesigner;
     // The main window's own designer engine; gets the designer settings on close.
     std::function<TFormDesigner *()> mainDesigner;
-    // The database work behind "Scan Server" and "Scan Alias".
-    std::function<void()> onScanServer;
-    std::function<void()> onScanAlias;
 
     // Copies the designer settings of the window into an engine; mask windows
     // call this whenever they become active.
@@ -71,6 +68,10 @@ public:
     TColor LFillColor() const { return swatchColor(swLFill); }
 
     void done(int result) override;
+
+    // "Scan Server" and "Scan Alias": fill the server and alias lists.
+    void ServerScanBtnClick();
+    void ScanAliasClick();
 
 protected:
     void showEvent(QShowEvent *event) override;

@@ -36,6 +36,10 @@ public:
     int ScreenWidth() const { return m_screenWidth; }
     void setScreenWidth(int width) { m_screenWidth = width; }
 
+    // The database folder the table settings belong to (not in the mask
+    // file: the loader takes the configured one).
+    QString DatenbankPfad() const { return m_datenbankPfad; }
+    void setDatenbankPfad(const QString &folder) { m_datenbankPfad = folder; }
     const TTableSettings &TableSettings() const { return m_tableSettings; }
     void setTableSettings(const TTableSettings &settings) { m_tableSettings = settings; }
 
@@ -61,6 +65,7 @@ private:
     int m_pixel = 32;
     int m_screenHeight = 600;
     int m_screenWidth = 800;
+    QString m_datenbankPfad;
     TTableSettings m_tableSettings;
     TcxEditStyleController *m_cxStyleController = nullptr;
     int m_officePagerStyle = 6; // "WindowsXP"

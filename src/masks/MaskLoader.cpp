@@ -105,6 +105,7 @@ namespace MaskLoader {
 
 void LoadTableSettings(TMaskDocument &document, const QString &databaseFolder)
 {
+    document.setDatenbankPfad(databaseFolder);
     document.setTableSettings(TableDescription::read(databaseFolder, document.Tabelle()));
 }
 

@@ -264,6 +264,50 @@ void drawMask(QPainter &p)
     p.drawRect(QRectF(14, 16.5, 5.5, 2.5));
 }
 
+void greenPlus(QPainter &p, const QPointF &c)
+{
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    p.drawEllipse(c, 5.5, 5.5);
+    p.setPen(QPen(kGreen, 2.6, Qt::SolidLine, Qt::FlatCap));
+    p.drawLine(c + QPointF(-3.5, 0), c + QPointF(3.5, 0));
+    p.drawLine(c + QPointF(0, -3.5), c + QPointF(0, 3.5));
+}
+
+// A table with its title row, and a plus: a table is made.
+void drawCreateTable(QPainter &p)
+{
+    outlineRect(p, QRectF(1.5, 2.5, 19, 16), kField);
+    p.setPen(Qt::NoPen);
+    p.setBrush(kAccent);
+    p.drawRect(QRectF(2, 3, 18, 4));
+    p.setPen(QPen(kLine, 1));
+    for (qreal y : {10.5, 14.5})
+        p.drawLine(QPointF(2, y), QPointF(20, y));
+    p.drawLine(QPointF(8.5, 7), QPointF(8.5, 18));
+    greenPlus(p, QPointF(17.5, 17.5));
+}
+
+// The mask with a small gear: its settings.
+void drawMaskOptions(QPainter &p)
+{
+    drawMask(p);
+    p.save();
+    p.translate(17.5, 17.5);
+    p.setPen(QPen(kOutline, 0.8));
+    p.setBrush(kYellow);
+    QPolygonF gear;
+    for (int i = 0; i < 16; ++i) {
+        const qreal r = (i % 4 < 2) ? 6 : 4.5;
+        const qreal a = qDegreesToRadians(i * 22.5 - 11.25);
+        gear << QPointF(r * qCos(a), r * qSin(a));
+    }
+    p.drawPolygon(gear);
+    p.setBrush(Qt::white);
+    p.drawEllipse(QPointF(0, 0), 2, 2);
+    p.restore();
+}
+
 } // namespace
 
 namespace PaletteIcons {
@@ -291,6 +335,8 @@ QIcon commandIcon(Command command)
     case Command::Arrange: return makeIcon(drawArrange);
     case Command::MinimizeAll: return makeIcon(drawMinimizeAll);
     case Command::About: return makeIcon(drawAbout);
+    case Command::CreateTable: return makeIcon(drawCreateTable);
+    case Command::MaskOptions: return makeIcon(drawMaskOptions);
     }
     return QIcon();
 }

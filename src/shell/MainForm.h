@@ -114,6 +114,9 @@ public:
     void PopItemsClick(int tag);
     void SettingsItemClick();
     void StyleItemClick();
+    // MainFormDatabase.cpp: the table explorer and the mask settings wizard.
+    void CreateTableItemClick();
+    void dxBarButton7Click();
     // Loads a mask file into a new mask window (nullptr only without a file name).
     TMaske *LoadMask(const QString &fileName);
     bool SaveMask(const QString &fileName);
@@ -216,6 +219,8 @@ private:
     QAction *ObjectInspectorItem = nullptr;
     QAction *SettingsItem = nullptr;
     QAction *StyleItem = nullptr;
+    QAction *CreateTableItem = nullptr;
+    QAction *dxBarButton7 = nullptr;
     QAction *EditModeItem = nullptr;
     QAction *RunModeItem = nullptr;
     QAction *WindowCascadeItem = nullptr;

@@ -108,7 +108,12 @@ void TMainForm::createToolBars()
 void TMainForm::createFileBar()
 {
     QToolBar *bar = createBar(FileMenuBar, QStringLiteral("File Menu"));
-    for (QAction *item : {FileNewItem, FileOpenItem, FileSaveItem, FileSaveAsItem, FileCloseItem}) {
+    for (QAction *item : {FileNewItem, FileOpenItem, FileSaveItem, FileSaveAsItem, FileCloseItem, static_cast<QAction *>(nullptr),
+                          dxBarButton7, CreateTableItem}) {
+        if (!item) {
+            bar->addSeparator();
+            continue;
+        }
         bar->addAction(item);
         bar->widgetForAction(item)->setObjectName(item->objectName() + QStringLiteral("Button"));
     }

@@ -64,6 +64,11 @@ void TMainForm::createActions()
     SettingsItem = makeAction(this, "SettingsItem", QStringLiteral("&Einstellungen..."),
                               commandIcon(Command::Settings));
     StyleItem = makeAction(this, "StyleItem", QStringLiteral("S&tile ändern..."));
+    CreateTableItem = makeAction(this, "CreateTableItem", QStringLiteral("Tabelle &erzeugen..."),
+                                 commandIcon(Command::CreateTable));
+    dxBarButton7 = makeAction(this, "dxBarButton7", QStringLiteral("&Masken Optionen"), commandIcon(Command::MaskOptions));
+    connect(CreateTableItem, &QAction::triggered, this, &TMainForm::CreateTableItemClick);
+    connect(dxBarButton7, &QAction::triggered, this, &TMainForm::dxBarButton7Click);
     EditModeItem = makeAction(this, "EditModeItem", QStringLiteral("&Bearbeitungsmodus"));
     RunModeItem = makeAction(this, "RunModeItem", QStringLiteral("&Run Mode"));
     for (QAction *item : {ObjectInspectorItem, EditModeItem, RunModeItem})
@@ -117,6 +122,8 @@ void TMainForm::createMenus()
 
     m_optionsMenu = addMenu("OptionsMenu", QStringLiteral("&Optionen"));
     m_optionsMenu->addActions({ObjectInspectorItem, SettingsItem, StyleItem});
+    m_optionsMenu->addSeparator();
+    m_optionsMenu->addActions({dxBarButton7, CreateTableItem});
     m_optionsMenu->addSeparator();
     m_optionsMenu->addActions({EditModeItem, RunModeItem});
 

@@ -206,7 +206,7 @@ void TMainForm::UpdateMenuItems()
     const bool hasMask = activeMask() != nullptr;
     for (QAction *item : {FileCloseItem, FileSaveItem, FileSaveAsItem, WindowCascadeItem, WindowTileItem,
                           WindowArrangeItem, WindowMinimizeItem, EditModeItem, RunModeItem,
-                          dxBarNormal}) {
+                          dxBarNormal, CreateTableItem, dxBarButton7}) {
         if (item)
             item->setEnabled(hasMask);
     }

@@ -17,7 +17,7 @@ enum class Command {
     Cut, Copy, Paste, Delete, Lock, Undo, Redo,
     Inspector, Settings,
     Cascade, Tile, Arrange, MinimizeAll,
-    About
+    About, CreateTable, MaskOptions
 };
 QIcon commandIcon(Command command);
 

@@ -19,6 +19,7 @@
 #include "ConnectionSettings.h"
 #include "FormDesigner.h"
 #include "IniFile.h"
+#include "PgTestServer.h"
 #include "RegistryStore.h"
 #include "SetupDialog.h"
 #include "TestSupport.h"
@@ -471,18 +472,31 @@ private Q_SLOTS:
         QVERIFY(scanAlias->isEnabled()); // the name typed before is still there
     }
 
-    void scanButtonsCallTheirHandlers()
+    // The scans find the test server and its databases, and say so when a
+    // server gives no answer.
+    void scanButtonsFillTheLists()
     {
-        writeIni(QStringLiteral("[Configuration]\r\nDBConnect=0\r\nDBServer=nexus\r\n"));
+        PgTestServer server;
+        QString error;
+        QVERIFY2(server.start(&error), qPrintable(error));
+        const QString address = QStringLiteral("127.0.0.1:%1").arg(server.port());
+        writeIni(QStringLiteral("[Configuration]\r\nDBConnect=0\r\nScanHosts=%1\r\n").arg(address));
         RecordingDialogs dialogs;
         TfrmSetup w;
-        QStringList calls;
-        w.onScanServer = [&calls] { calls << QStringLiteral("server"); };
-        w.onScanAlias = [&calls] { calls << QStringLiteral("alias"); };
         showAndWait(w);
+        auto *names = child<QComboBox>(w, "DBServerName");
+        auto *aliases = child<QComboBox>(w, "DBAlias");
         QTest::mouseClick(child<QPushButton>(w, "ServerScanBtn"), Qt::LeftButton);
+        QVERIFY2(names->findText(address) >= 0, qPrintable(names->currentText()));
+        names->setCurrentIndex(names->findText(address));
         QTest::mouseClick(child<QPushButton>(w, "ScanAlias"), Qt::LeftButton);
-        QCOMPARE(calls, QStringList({QStringLiteral("server"), QStringLiteral("alias")}));
+        QVERIFY(aliases->findText(QStringLiteral("postgres")) >= 0);
+        QVERIFY(dialogs.messages.isEmpty());
+
+        server.stop();
+        QTest::mouseClick(child<QPushButton>(w, "ScanAlias"), Qt::LeftButton);
+        QCOMPARE(dialogs.messages.size(), 1);
+        QVERIFY(dialogs.messages.first().text.endsWith(address));
     }
 
     void colourButtonWithoutOpenMaskRefuses()

@@ -17,6 +17,8 @@
 #include "TestSupport.h"
 #include <QComboBox>
 #include "helper_shell.h"
+#include <QLineEdit>
+#include <QPushButton>
 
 using namespace ShellTest;
 
@@ -162,6 +164,25 @@ void TestDesigning::styleAndSettingsOpenFromTheMenus()
     QCOMPARE(dialogs.dialogTitles.last(), QStringLiteral("Einstellungen"));
     mask->FormActivate();
     QCOMPARE(mask->FormDesigner2()->GridStep(), 16);
+
+    // The wizard names the table; the table explorer takes it from the mask.
+    dialogs.dialogAnswers << [](QDialog *dialog) {
+        QTest::keyClicks(dialog->findChild<QLineEdit *>(QStringLiteral("Name")), QStringLiteral("Kunden"));
+        QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("OKBtn")), Qt::LeftButton);
+        return dialog->result();
+    };
+    clickTool(form.get(), "dxBarButton7");
+    QCOMPARE(mask->document()->Tabelle(), QStringLiteral("Kunden"));
+    QVERIFY(mask->Modified());
+    QString tableName;
+    dialogs.dialogAnswers << [&tableName](QDialog *dialog) {
+        tableName = dialog->findChild<QLineEdit *>(QStringLiteral("TableName"))->text();
+        return int(QDialog::Accepted);
+    };
+    clickTool(form.get(), "CreateTableItem");
+    QCOMPARE(dialogs.dialogTitles.mid(2),
+             QStringList({QStringLiteral("Maskeneinstellungen"), QStringLiteral("Tabelle erzeugen")}));
+    QCOMPARE(tableName, QStringLiteral("Kunden"));
 }
 
 void TestDesigning::pastedEditsShareTheMaskStyle()

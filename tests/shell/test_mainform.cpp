@@ -179,7 +179,8 @@ void TestMainForm::commandsNeedAnOpenMask()
 {
     auto form = showMainForm();
     const char *const maskCommands[] = {"FileCloseItem", "FileSaveItem", "FileSaveAsItem", "WindowCascadeItem",
-                                        "WindowTileItem", "WindowArrangeItem", "WindowMinimizeItem"};
+                                        "WindowTileItem", "WindowArrangeItem", "WindowMinimizeItem",
+                                        "CreateTableItem", "dxBarButton7"};
     auto expectEnabled = [&](bool enabled) {
         for (const char *name : maskCommands) {
             QAction *item = action(form.get(), name);
