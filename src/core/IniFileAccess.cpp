@@ -226,7 +226,10 @@ bool writeWhole(const QString &fileName, const QByteArray &bytes, QString *error
     const bool isNew = !info.exists();
     if (!isNew && !info.isFile())
         return fail(QStringLiteral("Es ist keine gewöhnliche Datei"));
-    if (!isNew && !info.isWritable()) {
+    // A file without any write permission is write-protected for everyone,
+    // the superuser included, whom the system would let through.
+    const auto writeBits = QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+    if (!isNew && (!info.isWritable() || !(info.permissions() & writeBits))) {
         report(errorMessage, QStringLiteral("Die Datei „%1“ ist schreibgeschützt und wurde nicht überschrieben.")
                                  .arg(nativePath(target)));
         return false;
