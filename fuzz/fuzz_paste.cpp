@@ -17,6 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     auto *document = new TMaskDocument(&form);
     auto *designer = new TFormDesigner(&form);
     designer->setDesignControl(document);
+    designer->setActive(true); // an inactive engine pastes nothing
     auto *mime = new QMimeData;
     mime->setData(QStringLiteral("application/x-qt-windows-mime;value=\"CF_DesignedObjects\""),
                   FuzzSupport::bytes(data, size));
@@ -28,5 +29,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     } catch (const EFormDesigner &) {
         // An empty clipboard is refused with the engine's own error.
     }
+    designer->setActive(false);
     return 0;
 }
