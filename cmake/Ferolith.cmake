@@ -30,7 +30,7 @@ function(ferolith_tests)
         target_link_libraries(${_target} PRIVATE Qt6::Test testsupport ${ARGN})
         add_test(NAME ${_folder}.${_stem} COMMAND ${_target})
         set_tests_properties(${_folder}.${_stem} PROPERTIES
-            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0"
+            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
             TIMEOUT 300
             LABELS ${_folder})
     endforeach()

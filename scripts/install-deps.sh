@@ -11,6 +11,7 @@ packages=(
     qt6-l10n-tools qt6-translations-l10n
     dpkg-dev librsvg2-bin desktop-file-utils appstream shared-mime-info
     libsqlite3-dev postgresql
+    clang
 )
 
 missing=()

@@ -3,7 +3,18 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QSaveFile>
+
+#include "FileNames.h"
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 namespace IniFileAccess {
 
@@ -85,27 +96,226 @@ bool readWhole(const QString &fileName, QByteArray *bytes, QString *errorMessage
     return true;
 }
 
-bool writeWhole(const QString &fileName, const QByteArray &bytes, QString *errorMessage,
-                bool ownerOnlyWhenNew)
+namespace {
+
+qint64 systemWrite(int fd, const char *data, qint64 size)
+{
+#ifdef Q_OS_UNIX
+    return ::write(fd, data, size_t(size));
+#else
+    Q_UNUSED(fd); Q_UNUSED(data); Q_UNUSED(size);
+    return -1;
+#endif
+}
+
+int systemSync(int fd)
+{
+#ifdef Q_OS_UNIX
+    return ::fsync(fd);
+#else
+    Q_UNUSED(fd);
+    return 0;
+#endif
+}
+
+WriteCalls g_calls{systemWrite, systemSync};
+
+// Links are followed to the file they name, so saving writes through them.
+bool followLinks(QString *path)
+{
+    for (int depth = 0; depth < 40; ++depth) {
+        const QFileInfo info(*path);
+        if (!info.isSymLink())
+            return true;
+        *path = info.symLinkTarget();
+    }
+    return false;
+}
+
+#ifdef Q_OS_UNIX
+QString systemReason(int error)
+{
+    switch (error) {
+    case ENOSPC:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+        return QStringLiteral("Auf dem Datenträger ist nicht genug Platz");
+    case EACCES:
+    case EPERM:
+        return QStringLiteral("Zugriff verweigert");
+    case EROFS:
+        return QStringLiteral("Der Datenträger ist schreibgeschützt");
+    case EIO:
+        return QStringLiteral("Ein-/Ausgabefehler des Datenträgers");
+    default:
+        return QString::fromLocal8Bit(std::strerror(error));
+    }
+}
+
+// Writes all bytes through the write call; false with errno set otherwise.
+bool writeAll(int fd, const QByteArray &bytes)
+{
+    const char *data = bytes.constData();
+    qint64 left = bytes.size();
+    while (left > 0) {
+        const qint64 n = g_calls.write(fd, data, left);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0) {
+            if (n == 0)
+                errno = ENOSPC;
+            return false;
+        }
+        data += n;
+        left -= n;
+    }
+    return true;
+}
+
+// A name beside the target that no other file has.
+int createTemporary(const QString &target, QString *tempName)
+{
+    const QFileInfo info(target);
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        *tempName = info.absolutePath() + QStringLiteral("/.") + info.fileName() + QLatin1Char('.')
+                    + QString::number(QRandomGenerator::global()->generate(), 36) + QStringLiteral(".tmp");
+        // Readable by the owner only until it is complete and has its final mode.
+        const int fd = ::open(QFile::encodeName(*tempName).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+                              0600);
+        if (fd >= 0 || errno != EEXIST)
+            return fd;
+    }
+    return -1;
+}
+
+mode_t currentUmask()
+{
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return mask;
+}
+#endif
+
+} // namespace
+
+void setWriteCalls(const WriteCalls &calls)
+{
+    g_calls.write = calls.write ? calls.write : systemWrite;
+    g_calls.sync = calls.sync ? calls.sync : systemSync;
+}
+
+bool writeWhole(const QString &fileName, const QByteArray &bytes, QString *errorMessage, bool ownerOnlyWhenNew,
+                const QString &backupExtension)
 {
     if (fileName.isEmpty()) {
         report(errorMessage, QStringLiteral("Es wurde kein Dateiname angegeben."));
         return false;
     }
-    const QFileInfo info(fileName);
-    const auto fail = [&](const QString &reason) {
-        report(errorMessage, failure(fileName, "geschrieben", reason));
+    const auto failAt = [&](const QString &name, const QString &reason) {
+        report(errorMessage, failure(name, "geschrieben", reason));
         return false;
     };
+    QString target = fileName;
+    if (!followLinks(&target))
+        return failAt(fileName, QStringLiteral("Zu viele verkettete Verknüpfungen"));
+    const QFileInfo info(target);
+    const auto fail = [&](const QString &reason) { return failAt(target, reason); };
     if (info.isDir())
         return fail(QStringLiteral("Es ist ein Ordner"));
     const bool isNew = !info.exists();
+    if (!isNew && !info.isFile())
+        return fail(QStringLiteral("Es ist keine gewöhnliche Datei"));
+    // A file without any write permission is write-protected for everyone,
+    // the superuser included, whom the system would let through.
+    const auto writeBits = QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+    if (!isNew && (!info.isWritable() || !(info.permissions() & writeBits))) {
+        report(errorMessage, QStringLiteral("Die Datei „%1“ ist schreibgeschützt und wurde nicht überschrieben.")
+                                 .arg(nativePath(target)));
+        return false;
+    }
 
-    QSaveFile file(fileName);
+#ifdef Q_OS_UNIX
+    const QByteArray targetPath = QFile::encodeName(info.absoluteFilePath());
+    struct stat old {};
+    if (!isNew && ::stat(targetPath.constData(), &old) != 0)
+        return fail(systemReason(errno));
+
+    QString tempName;
+    const int fd = createTemporary(target, &tempName);
+    if (fd < 0)
+        return fail(writeFailureReason(info, systemReason(errno)));
+    const QByteArray tempPath = QFile::encodeName(tempName);
+    const auto abandon = [&](int error) {
+        ::close(fd);
+        ::unlink(tempPath.constData());
+        return fail(systemReason(error));
+    };
+    if (!writeAll(fd, bytes))
+        return abandon(errno);
+    // On the disk before it replaces anything: a full or failing disk shows
+    // here at the latest, while the old file is still untouched.
+    if (g_calls.sync(fd) != 0)
+        return abandon(errno);
+    if (isNew) {
+        if (!ownerOnlyWhenNew && ::fchmod(fd, 0666 & ~currentUmask()) != 0)
+            return abandon(errno);
+    } else {
+        // The owner first: a change of owner may clear mode bits. Only the
+        // superuser may give a file away; the group may still be kept.
+        if (::fchown(fd, old.st_uid, old.st_gid) != 0)
+            (void)::fchown(fd, uid_t(-1), old.st_gid);
+        if (::fchmod(fd, old.st_mode & 07777) != 0)
+            return abandon(errno);
+    }
+    if (::close(fd) != 0) {
+        const int error = errno;
+        ::unlink(tempPath.constData());
+        return fail(systemReason(error));
+    }
+
+    QByteArray backupPath;
+    if (!backupExtension.isEmpty()) {
+        backupPath = QFile::encodeName(
+            QFileInfo(FileNames::changeFileExt(info.absoluteFilePath(), backupExtension)).absoluteFilePath());
+        if (backupPath == targetPath)
+            backupPath.clear(); // a backup saved under its own name keeps no backup of itself
+    }
+    // The previous file becomes the backup, replacing an older one in one step.
+    if (!isNew && !backupPath.isEmpty() && ::rename(targetPath.constData(), backupPath.constData()) != 0) {
+        const int error = errno;
+        ::unlink(tempPath.constData());
+        return fail(QStringLiteral("Die Sicherungskopie „%1“ konnte nicht angelegt werden: %2")
+                        .arg(QDir::toNativeSeparators(QFile::decodeName(backupPath)), systemReason(error)));
+    }
+    if (::rename(tempPath.constData(), targetPath.constData()) != 0) {
+        const int error = errno;
+        if (!isNew && !backupPath.isEmpty())
+            ::rename(backupPath.constData(), targetPath.constData());
+        ::unlink(tempPath.constData());
+        return fail(systemReason(error));
+    }
+    // Without a previous file an older backup belongs to nothing any more.
+    if (isNew && !backupPath.isEmpty())
+        ::unlink(backupPath.constData());
+    // The new name itself must reach the disk too.
+    const int dir = ::open(QFile::encodeName(info.absolutePath()).constData(), O_RDONLY | O_CLOEXEC);
+    if (dir >= 0) {
+        ::fsync(dir);
+        ::close(dir);
+    }
+    return true;
+#else
+    if (!isNew && !backupExtension.isEmpty()) {
+        const QString backup = FileNames::changeFileExt(info.absoluteFilePath(), backupExtension);
+        if (QFileInfo(backup).absoluteFilePath() != info.absoluteFilePath()) {
+            QFile::remove(backup);
+            QFile::copy(target, backup);
+        }
+    }
+    QSaveFile file(target);
     if (!file.open(QIODevice::WriteOnly))
         return fail(writeFailureReason(info, file.errorString()));
-    // Restricted before the first byte is written, so the content is never
-    // readable by others, not even for a moment.
     if (isNew && ownerOnlyWhenNew)
         file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     if (file.write(bytes) != bytes.size()) {
@@ -116,6 +326,7 @@ bool writeWhole(const QString &fileName, const QByteArray &bytes, QString *error
     if (!file.commit())
         return fail(writeFailureReason(info, file.errorString()));
     return true;
+#endif
 }
 
 QStringView trimmed(QStringView text)

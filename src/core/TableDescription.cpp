@@ -15,6 +15,24 @@ void writeEntries(TMemIniFile &ini, const QString &section, const QStringList &e
     for (const QString &entry : entries)
         ini.writeString(section, TableDescription::entryField(entry), TableDescription::entryValue(entry));
 }
+// A table name names a file in the database folder and nothing else: no
+// folder parts, no way up, no absolute path.
+bool plainName(const QString &table)
+{
+    return !table.isEmpty() && table != QLatin1String(".") && table != QLatin1String("..")
+           && !table.contains(QLatin1Char('/')) && !table.contains(QLatin1Char('\\'))
+           && !table.contains(QLatin1Char(':')) && !table.contains(QChar(0));
+}
+
+// The file lies in the folder itself, also after following links.
+bool insideFolder(const QString &databaseFolder, const QString &file)
+{
+    const QString folder = QFileInfo(databaseFolder.isEmpty() ? QStringLiteral(".") : databaseFolder)
+                               .canonicalFilePath();
+    const QString real = QFileInfo(file).canonicalFilePath();
+    return !folder.isEmpty() && !real.isEmpty() && QFileInfo(real).absolutePath() == folder;
+}
+
 } // namespace
 
 namespace TableDescription {
@@ -65,11 +83,11 @@ QString fileName(const QString &databaseFolder, const QString &table)
 TTableSettings read(const QString &databaseFolder, const QString &table)
 {
     TTableSettings settings;
-    if (table.isEmpty())
+    if (!plainName(table))
         return settings;
     const QString file = fileName(databaseFolder, table);
     TMemIniFile ini;
-    if (!QFileInfo(file).isFile() || !ini.load(file))
+    if (!QFileInfo(file).isFile() || !insideFolder(databaseFolder, file) || !ini.load(file))
         return settings;
     settings.CadPath = ini.readString(kDatenbank, QStringLiteral("CadPath"), QString());
     if (!settings.CadPath.isEmpty() && !settings.CadPath.endsWith(QLatin1Char('/'))
@@ -87,6 +105,11 @@ TTableSettings read(const QString &databaseFolder, const QString &table)
 bool write(const QString &databaseFolder, const QString &table, const TTableSettings &settings,
            QString *errorMessage)
 {
+    if (!plainName(table)) {
+        if (errorMessage)
+            *errorMessage = QStringLiteral("Der Tabellenname „%1“ ist kein gültiger Dateiname.").arg(table);
+        return false;
+    }
     // Written anew: entries removed from the mask must not linger in the file.
     TMemIniFile ini;
     ini.writeString(kDatenbank, QStringLiteral("CadPath"), settings.CadPath);

@@ -33,7 +33,8 @@ QStringList splitFields(const QString &felder);
 // An existing file spelled ".Ini" (as older folders have it) is preferred.
 QString fileName(const QString &databaseFolder, const QString &table);
 
-// A missing or unreadable file gives empty settings.
+// A missing or unreadable file gives empty settings, and so does a table name
+// that would lead out of the folder ("../x", a path, a link to elsewhere).
 TTableSettings read(const QString &databaseFolder, const QString &table);
 
 // Writes section "Datenbank" with the five values, then "Default" and

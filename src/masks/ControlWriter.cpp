@@ -11,6 +11,7 @@
 #include "IniFile.h"
 #include "MaskDocument.h"
 #include "MyBtn.h"
+#include "PickLists.h"
 
 
 namespace {
@@ -223,8 +224,13 @@ void TControlWriter::WriteCField(QWidget *w, const QString &s)
     integer(s, "TabOrder", combo->TabOrder());
     str(s, "PullDown", combo->Hint());
     // One block per pick-list name; the first combo box with items fills it.
-    const QStringList items = combo->Items();
-    const QString header = QLatin1Char('[') + combo->Hint() + QLatin1Char(']');
+    // Items the block cannot hold (entering them is refused, but a pasted
+    // control may bring them) are left out rather than read back as keys.
+    QStringList items;
+    for (const QString &item : combo->Items())
+        if (PickLists::holds(item))
+            items << item;
+    const QString header = PickLists::header(combo->Hint());
     // Section names ignore case, so "[ANREDE]" is the block "[Anrede]".
     if (!items.isEmpty() && !m_pickListNames.contains(combo->Hint().toCaseFolded())) {
         m_pickListNames.insert(combo->Hint().toCaseFolded());

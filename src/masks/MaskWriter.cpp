@@ -66,18 +66,10 @@ QByteArray MaskFileBytes(const TMaskDocument &document)
 bool SaveMask(const TMaskDocument &document, const QString &fileName, QString *errorMessage)
 {
     TWaitCursor wait;
-
-    // The previous file becomes the backup; an older backup makes way. A
-    // backup file being saved under its own name keeps its content until
-    // the new one is complete.
-    const QString backup = FileNames::changeFileExt(fileName, QStringLiteral(".dbm_bak"));
-    if (QFileInfo(backup).absoluteFilePath() != QFileInfo(fileName).absoluteFilePath()
-        && QFileInfo(fileName).isFile()) {
-        QFile::remove(backup);
-        QFile::rename(fileName, backup);
-    }
-
-    return IniFileAccess::writeWhole(fileName, MaskFileBytes(document), errorMessage);
+    // The previous file becomes the ".dbm_bak" backup only once the new one
+    // is complete on the disk; until then both stay as they are.
+    return IniFileAccess::writeWhole(fileName, MaskFileBytes(document), errorMessage, false,
+                                     QStringLiteral(".dbm_bak"));
 }
 
 } // namespace MaskWriter

@@ -175,7 +175,9 @@ bool TMaske::FormCloseQuery()
     case mrYes:
         if (m_host)
             m_host->FileSaveItemClick();
-        return true;
+        // A save that failed (or was not done) has told the user; closing
+        // now would lose the changes.
+        return !m_modified;
     case mrNo:
         return true;
     default:

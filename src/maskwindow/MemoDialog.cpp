@@ -6,6 +6,8 @@
 #include <QVBoxLayout>
 
 #include "Edits.h"
+#include "PickLists.h"
+#include "UserDialogs.h"
 
 TMemoDlg::TMemoDlg(QWidget *parent)
     : QDialog(parent)
@@ -75,6 +77,12 @@ QStringList TMemoDlg::lines() const
 
 void TMemoDlg::accept()
 {
+    // Refused here, where the user can still mend the line.
+    const QString refusal = PickLists::refusal(lines());
+    if (!refusal.isEmpty()) {
+        UserDialogs::instance().messageDlg(this, refusal, mtError, mbOK);
+        return;
+    }
     if (m_combo)
         m_combo->setItems(lines());
     else

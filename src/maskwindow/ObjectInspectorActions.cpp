@@ -2,6 +2,7 @@
 // rows that follow its action, file and rule pickers, the check box colour
 // options, the pick-list file of a combo box and new pages of a page control.
 #include "ObjectInspector.h"
+#include "PickLists.h"
 
 #include "AppPaths.h"
 #include "CheckDialog.h"
@@ -215,6 +216,12 @@ void TObjInsp::ComboPullDownFileButtonClick()
     if (dialogs.execDialog(&editor) != QDialog::Accepted)
         return;
     const QStringList items = splitLines(editor.memoHint());
+    // The file may hold lines a mask file cannot carry; they stay out.
+    const QString refusal = PickLists::refusal(items);
+    if (!refusal.isEmpty()) {
+        dialogs.messageDlg(this, refusal, mtError, mbOK);
+        return;
+    }
 
     QString text;
     for (const QString &item : items)

@@ -204,7 +204,10 @@ void TDBRadioGroup::setItems(const QStringList &items)
     qDeleteAll(m_buttons);
     m_buttons.clear();
     m_items = items;
-    for (const QString &item : items) {
+    // More buttons than this would not fit on any screen, and each costs a
+    // widget; the items beyond them are kept all the same.
+    constexpr int kMaxButtons = 1024;
+    for (const QString &item : items.mid(0, kMaxButtons)) {
         auto *button = new QRadioButton(item, this);
         button->setAttribute(Qt::WA_TransparentForMouseEvents, isDesigning() || m_readOnly);
         button->setFocusPolicy(isDesigning() ? Qt::NoFocus : Qt::StrongFocus);

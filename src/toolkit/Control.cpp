@@ -9,16 +9,20 @@
 
 namespace {
 
-constexpr int kMaxCoordinate = QWIDGETSIZE_MAX;
+// What a screen can show, and what the mask files' 16-bit origin could hold:
+// no file or command can make a control larger or place it farther away, so
+// nothing allocates for a giant control and sums of a few coordinates cannot
+// overflow.
+constexpr int kMaxCoordinate = 32767;
 
-int clampPosition(int v)
+int clampPosition(qint64 v)
 {
-    return std::clamp(v, -kMaxCoordinate, kMaxCoordinate);
+    return int(std::clamp<qint64>(v, -kMaxCoordinate, kMaxCoordinate));
 }
 
-int clampSize(int v)
+int clampSize(qint64 v)
 {
-    return std::clamp(v, 0, kMaxCoordinate);
+    return int(std::clamp<qint64>(v, 0, kMaxCoordinate));
 }
 
 // Lives as a plain QObject child of a container and watches it.
@@ -152,30 +156,34 @@ void alignControls(QWidget *container)
     std::stable_sort(byAlign[alLeft].begin(), byAlign[alLeft].end(), byLeft);
     std::stable_sort(byAlign[alRight].begin(), byAlign[alRight].end(), byRight);
 
-    int left = rect.left(), top = rect.top();
-    int right = rect.left() + rect.width(), bottom = rect.top() + rect.height();
+    // Wide sums: a long stack of controls may run past any int.
+    qint64 left = rect.left(), top = rect.top();
+    qint64 right = qint64(rect.left()) + rect.width(), bottom = qint64(rect.top()) + rect.height();
+    const auto place = [](TControl *c, qint64 x, qint64 y, qint64 w, qint64 h) {
+        c->widget()->setGeometry(clampPosition(x), clampPosition(y), clampSize(w), clampSize(h));
+    };
     for (TControl *c : byAlign[alTop]) {
         const int h = c->Height();
-        c->widget()->setGeometry(left, top, std::max(0, right - left), h);
+        place(c, left, top, right - left, h);
         top += h;
     }
     for (TControl *c : byAlign[alBottom]) {
         const int h = c->Height();
         bottom -= h;
-        c->widget()->setGeometry(left, bottom, std::max(0, right - left), h);
+        place(c, left, bottom, right - left, h);
     }
     for (TControl *c : byAlign[alLeft]) {
         const int w = c->Width();
-        c->widget()->setGeometry(left, top, w, std::max(0, bottom - top));
+        place(c, left, top, w, bottom - top);
         left += w;
     }
     for (TControl *c : byAlign[alRight]) {
         const int w = c->Width();
         right -= w;
-        c->widget()->setGeometry(right, top, w, std::max(0, bottom - top));
+        place(c, right, top, w, bottom - top);
     }
     for (TControl *c : byAlign[alClient])
-        c->widget()->setGeometry(left, top, std::max(0, right - left), std::max(0, bottom - top));
+        place(c, left, top, right - left, bottom - top);
     info->aligning = false;
 }
 

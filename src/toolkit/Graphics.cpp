@@ -1,5 +1,6 @@
 #include "Graphics.h"
 
+#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <QPainterPath>
@@ -194,6 +195,10 @@ void TShape::paintEvent(QPaintEvent *)
 
 // ---- pictures ----
 
+namespace {
+constexpr qint64 kMaxPictureFileSize = qint64(64) << 20;
+}
+
 TPictureControl::TPictureControl(QWidget *parent) : TControlT<QWidget>(parent)
 {
     setTransparent(true);
@@ -203,7 +208,10 @@ void TPictureControl::setFileName(const QString &fileName)
 {
     m_fileName = fileName;
     m_image = QImage();
-    if (!fileName.isEmpty()) {
+    // Only a regular file of sane size is read: a pipe, a terminal or a
+    // device named in a mask file would block loading for good.
+    const QFileInfo info(fileName);
+    if (!fileName.isEmpty() && info.isFile() && info.size() <= kMaxPictureFileSize) {
         QImageReader reader(fileName);
         reader.setAutoTransform(true);
         // Refuse pictures that would need more than 256 MB decoded.

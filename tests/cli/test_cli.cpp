@@ -165,6 +165,14 @@ void TestCli::failuresSayWhatWentWrong()
     QVERIFY2(oneLine(r), r.err.constData());
     QVERIFY(r.err.contains("ordner.dbm"));
 
+    // A write-protected target stays as it is and the exit says so.
+    writeMask(QStringLiteral("fest.dbm"), QStringLiteral("[Datenbank]\nTitel=fest\n"));
+    QVERIFY(QFile::setPermissions(path(QStringLiteral("fest.dbm")), QFileDevice::ReadOwner));
+    r = run({QStringLiteral("roundtrip"), path(QStringLiteral("kunden.dbm")), path(QStringLiteral("fest.dbm"))});
+    QCOMPARE(r.exitCode, 1);
+    QVERIFY2(oneLine(r) && r.err.contains("schreibgeschützt"), r.err.constData());
+    QVERIFY(!QFile::exists(path(QStringLiteral("fest.dbm_bak"))));
+
     r = run({QStringLiteral("render"), path(QStringLiteral("kunden.dbm")), path(QStringLiteral("ordner.dbm"))});
     QVERIFY(r.exitCode != 0);
     QVERIFY2(oneLine(r), r.err.constData());

@@ -1,6 +1,7 @@
 // Loading mask files: every kind with its keys and defaults, the parent and
 // tab order rules, and files that are odd or broken.
 #include <QtTest>
+#include <sys/stat.h>
 
 #include "Containers.h"
 #include "EditStyle.h"
@@ -193,6 +194,16 @@ void TestLoading::headerAndTableSettings()
     TMaskDocument *odd = home.load(file);
     QVERIFY(sectionLines(savedText(odd), "Datenbank").contains("Height=700"));
     QVERIFY(odd->TableSettings().Index.isEmpty());
+
+    // The table settings come from the database folder only: not from a way
+    // up, an absolute path or a link that leads elsewhere.
+    writeMask(home.path(QStringLiteral("geheim.ini")), QStringLiteral("[Datenbank]\nIndex=PASSWORT\n"));
+    QVERIFY(QFile::link(home.path(QStringLiteral("geheim.ini")), home.databaseFolder() + QStringLiteral("Link.ini")));
+    for (const QString &table : {QStringLiteral("../geheim"), home.path(QStringLiteral("geheim")),
+                                 QStringLiteral("..\\geheim"), QStringLiteral("Link")}) {
+        writeMask(file, QStringLiteral("[Datenbank]\nTabelle=%1\n").arg(table));
+        QVERIFY2(home.load(file)->TableSettings().Index.isEmpty(), qPrintable(table));
+    }
 }
 
 void TestLoading::oddFilesNeverBreakTheLoad()
@@ -216,6 +227,29 @@ void TestLoading::oddFilesNeverBreakTheLoad()
     QCOMPARE(panel->BevelInner(), bvNone);
     QVERIFY(panel->Font().Size > 0);
     QCOMPARE(component<TDBRadioGroup>(mask, "DBRadioGroup1")->Columns(), 1);
+
+    // Positions and sizes stay within what a screen can show, so no control
+    // allocates for a giant size and no sum of coordinates overflows.
+    QStringList items;
+    for (int i = 0; i < 5000; ++i)
+        items << QString::number(i);
+    writeMask(huge, QStringLiteral("[CField_1]\nLeft=100000\nTop=-100000\nWidth=2000000000\nHeight=16777215\n"
+                                   "[DBRadioGroup_1]\nItems=%1\n").arg(items.join(QLatin1Char(','))));
+    mask = home.load(huge);
+    auto *combo = component<TcxComboBox>(mask, "cxComboBox1");
+    QCOMPARE(combo->geometry(), QRect(32767, -32767, 32767, 32767));
+    // Every item is kept; only so many get a button.
+    auto *group = component<TDBRadioGroup>(mask, "DBRadioGroup1");
+    QCOMPARE(group->Items().size(), 5000);
+    QVERIFY(group->buttons().size() <= 1024);
+
+    // A picture that names a pipe or a device leaves the picture empty
+    // rather than waiting for data that never comes.
+    const QByteArray fifo = QFile::encodeName(home.path(QStringLiteral("pipe")));
+    QCOMPARE(::mkfifo(fifo.constData(), 0600), 0);
+    writeMask(huge, QStringLiteral("[Image_1]\nFileName=%1\n[Image_2]\nFileName=/dev/zero\n").arg(QFile::decodeName(fifo)));
+    mask = home.load(huge);
+    QCOMPARE(controlClasses(mask), QStringList({"TImageAspect", "TImageAspect"}));
 
     // Binary garbage and a missing file give masks with every default.
     const QString garbage = home.path(QStringLiteral("garbage.dbm"));

@@ -50,7 +50,13 @@ struct FakeHost : TMaskHost
     void CopyItemClick() override { calls << QStringLiteral("copy"); }
     void CutItemClick() override { calls << QStringLiteral("cut"); }
     void Lschen1Click() override { calls << QStringLiteral("delete"); }
-    void FileSaveItemClick() override { calls << QStringLiteral("save"); }
+    void FileSaveItemClick() override
+    {
+        calls << QStringLiteral("save");
+        if (saved)
+            saved->setModified(false); // as a save that succeeds
+    }
+    TMaske *saved = nullptr;
 };
 
 struct MaskFixture
@@ -249,8 +255,12 @@ void TestMaske::captionCloseQuestionAndKeys()
     QCOMPARE(dialogs.messages.first().buttons, TMsgDlgButtons(mbYes | mbNo | mbAbort));
     QVERIFY(f.mask->FormCloseQuery());
     QVERIFY(!f.host.calls.contains(QStringLiteral("save")));
-    QVERIFY(f.mask->FormCloseQuery());
+    // Yes with a save that fails keeps the mask open; one that succeeds closes it.
+    dialogs.messageAnswers = {mrYes, mrYes};
+    QVERIFY(!f.mask->FormCloseQuery());
     QVERIFY(f.host.calls.contains(QStringLiteral("save")));
+    f.host.saved = f.mask;
+    QVERIFY(f.mask->FormCloseQuery());
 }
 
 void TestMaske::movesReportToThePositionFields()

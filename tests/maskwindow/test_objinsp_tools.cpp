@@ -212,6 +212,26 @@ void TestObjInspTools::pickListFileKeepsItsNameAndReportsFailures()
     QCOMPARE(combo->Items(), (QStringList{QStringLiteral("Köln"), QStringLiteral("Bonn")}));
     QVERIFY(!QFileInfo::exists(file + QStringLiteral(".txt")));
 
+    // Lines a mask file would read as a section or a key are refused: typed
+    // into the editor, it stays open; standing in the file, nothing changes.
+    f.dialogs.messages.clear();
+    f.dialogs.messageAnswers = {mrYes, mrOk};
+    f.dialogs.dialogAnswers = {typeIntoListEditor(&shown, {QStringLiteral("Bonn"), QStringLiteral("[Datenbank]")}, true)};
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(f.dialogs.messages.size(), 2);
+    QVERIFY(f.dialogs.messages.at(1).text.contains(QStringLiteral("„[Datenbank]“")));
+    QCOMPARE(readFileBytes(file), QByteArray("K\xf6ln\r\nBonn\r\n"));
+    const QByteArray hostile("Bonn\r\nTitel=B\xf6se\r\n");
+    QVERIFY(writeFileBytes(file, hostile));
+    f.dialogs.messages.clear();
+    f.dialogs.messageAnswers = {mrYes, mrOk};
+    f.dialogs.dialogAnswers = {[](QDialog *) { return int(QDialog::Accepted); }};
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(f.dialogs.messages.size(), 2);
+    QCOMPARE(f.dialogs.messages.at(1).type, mtError);
+    QCOMPARE(readFileBytes(file), hostile);
+    QCOMPARE(combo->Items(), (QStringList{QStringLiteral("Köln"), QStringLiteral("Bonn")}));
+
     // A folder that cannot be made: a clear error, nothing else is asked.
     folder = base.filePath(QStringLiteral("blocker"));
     QVERIFY(writeFileBytes(folder, QByteArray("a file, not a folder")));

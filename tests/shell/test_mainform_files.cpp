@@ -11,6 +11,8 @@
 #include "Containers.h"
 #include "FormDesigner.h"
 #include "IniFile.h"
+#include "IniFileAccess.h"
+#include <cerrno>
 #include "TestSupport.h"
 #include "helper_shell.h"
 
@@ -300,6 +302,23 @@ void TestMainFormFiles::saveFailureIsReported()
     QVERIFY(dialogs.messages.at(0).text.contains(target));
     QVERIFY(mask->Modified());
     QVERIFY(!QFile::exists(target));
+
+    // A full disk when closing with "save": told why, and the mask stays open.
+    mask->setPath(path(QStringLiteral("Maske.dbm")));
+    mask->setWindowTitle(QStringLiteral("Maske.dbm"));
+    IniFileAccess::setWriteCalls({+[](int, const char *, qint64) -> qint64 {
+                                      errno = ENOSPC;
+                                      return -1;
+                                  },
+                                  nullptr});
+    dialogs.messageAnswers << mrYes << mrOk;
+    mask->close();
+    IniFileAccess::setWriteCalls({});
+    QCOMPARE(dialogs.messages.size(), 3);
+    QVERIFY(dialogs.messages.at(2).text.contains(QStringLiteral("nicht genug Platz")));
+    QVERIFY(form->mdiArea()->subWindowList().contains(mask));
+    QVERIFY(mask->Modified());
+    QVERIFY(!QFile::exists(path(QStringLiteral("Maske.dbm"))));
 }
 
 QTEST_MAIN(TestMainFormFiles)

@@ -305,6 +305,22 @@ void TestControlLayer::geometryIsClampedNotCrashed()
     QCOMPARE(panel.Width(), 0);
     panel.setBounds(1, 2, 3, 4);
     QCOMPARE(panel.geometry(), QRect(1, 2, 3, 4));
+
+    // A stack of huge aligned controls: every place stays in range, none wraps round.
+    TPanel host;
+    host.setBounds(0, 0, 500, 500);
+    QList<TPanel *> stack;
+    for (int i = 0; i < 300; ++i) {
+        auto *p = new TPanel(&host);
+        p->setBounds(0, i, 10, 16777215);
+        p->setAlign(i % 2 ? alTop : alLeft);
+        stack << p;
+    }
+    for (TPanel *p : std::as_const(stack)) {
+        const QRect r = p->geometry();
+        QVERIFY2(r.top() >= 0 && r.left() >= 0 && r.top() <= 32767 && r.left() <= 32767 && r.height() <= 32767,
+                 qPrintable(QStringLiteral("%1,%2 %3").arg(r.left()).arg(r.top()).arg(r.height())));
+    }
 }
 
 QTEST_MAIN(TestControlLayer)
