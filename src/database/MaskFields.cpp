@@ -72,7 +72,15 @@ TFieldRow rowOf(const QObject *object)
 
 void collect(const QObject *parent, const QString &indexField, QSet<QString> &seen, QVector<TFieldRow> &rows)
 {
-    for (const QObject *child : parent->children()) {
+    // Graphic controls (data labels) lie beneath the windowed ones in the
+    // child list; the fields come first, so a field shown by both gets its
+    // row from the field.
+    QList<const QObject *> children;
+    for (const bool graphic : {false, true})
+        for (const QObject *child : parent->children())
+            if (ControlLayout::isGraphic(qobject_cast<const QWidget *>(child)) == graphic)
+                children << child;
+    for (const QObject *child : std::as_const(children)) {
         TFieldRow row = rowOf(child);
         if (!row.FieldName.isEmpty() && !seen.contains(row.FieldName.toLower())) {
             seen.insert(row.FieldName.toLower());

@@ -118,9 +118,13 @@ void TDesignOverlay::paintEvent(QPaintEvent *event)
 {
     QPainter p(this);
     const QRect dirty = event->rect();
-    for (const Mark &m : std::as_const(m_marks))
-        if (m.rect.intersects(dirty))
-            p.drawPixmap(m.rect, m.look);
+    for (const Mark &m : std::as_const(m_marks)) {
+        if (!m.rect.intersects(dirty))
+            continue;
+        p.setClipRect(m.rect);
+        p.drawPixmap(m.origin, m.look);
+    }
+    p.setClipping(false);
     if (m_band) {
         p.setPen(QPen(kFrameColor, 1, Qt::DotLine));
         for (const QRect &r : std::as_const(m_frames))
@@ -146,14 +150,23 @@ QList<TDesignOverlay::Mark> TDesignOverlay::multiSelectionMarks() const
     if (d.ControlCount() <= 1)
         return marks;
     const QWidget *surface = parentWidget();
-    const QPixmap looks[2] = {d.grabBitmap(gtMulti), d.grabBitmap(gtLocked)};
+    const QPixmap looks[2] = {d.grabLook(gtMulti), d.grabLook(gtLocked)};
     for (QWidget *c : d.selection()) {
-        if (!c->parentWidget() || !c->isVisible())
+        QWidget *parent = c->parentWidget();
+        if (!parent || !c->isVisible())
             continue;
-        const QRect bounds(designOrigin(surface, c->parentWidget()) + c->pos(), c->size());
+        // Painted on the parent's surface: what lies outside it (and outside
+        // the containers around it) does not show.
+        QRect clip(designOrigin(surface, parent), parent->size());
+        for (const QWidget *a = parent->parentWidget(); a && a != surface; a = a->parentWidget())
+            clip &= QRect(designOrigin(surface, a), a->size());
+        const QRect bounds(designOrigin(surface, parent) + c->pos(), c->size());
         const QPixmap &look = looks[d.IsLocked(c) ? 1 : 0];
-        for (int pos = gpLeftTop; pos <= gpRightBottom; ++pos)
-            marks.append({TGrabHandles::handleRect(d.GrabMode(), d.GrabSize(), bounds, TGrabPosition(pos)), look});
+        for (int pos = gpLeftTop; pos <= gpRightBottom; ++pos) {
+            const QRect r = TGrabHandles::handleRect(d.GrabMode(), d.GrabSize(), bounds, TGrabPosition(pos));
+            if (const QRect shown = r & clip; !shown.isEmpty())
+                marks.append({shown, r.topLeft(), look});
+        }
     }
     return marks;
 }

@@ -71,6 +71,15 @@ void passKey(QObject *sender, const Handler &handler, TDesignMessage &msg)
         msg.message = 0;
 }
 
+// The text a key types, for a key that a handler rewrote.
+QString keyText(int key, Qt::KeyboardModifiers shift)
+{
+    if (key < Qt::Key_Space || key > Qt::Key_ydiaeresis || (shift & (Qt::ControlModifier | Qt::MetaModifier)))
+        return QString();
+    const QChar ch(key);
+    return shift & Qt::ShiftModifier ? QString(ch) : QString(ch.toLower());
+}
+
 } // namespace
 
 TDesignerInput::TDesignerInput(TCustomFormDesigner &designer, Host &host, TDragSession &session)
@@ -109,6 +118,10 @@ void TDesignerInput::detach()
         if (w)
             unwatch(w);
     m_watched.clear();
+    for (const QPointer<QWidget> &w : std::as_const(m_tracked))
+        if (w)
+            w->setMouseTracking(false);
+    m_tracked.clear();
     m_watchedSet.clear();
     m_excluded.clear();
     m_menuControl = nullptr;
@@ -140,6 +153,10 @@ void TDesignerInput::watch(QWidget *widget)
         connect(widget, &QObject::destroyed, &m_watchContext,
                 [this](QObject *gone) { m_watchedSet.remove(static_cast<QWidget *>(gone)); });
     }
+    if (!widget->hasMouseTracking()) {
+        widget->setMouseTracking(true);
+        m_tracked.append(widget);
+    }
     if (TControl *c = TControl::from(widget); c && widget != m_designControl)
         c->setDesigning(true);
     for (QObject *child : widget->children())
@@ -158,6 +175,7 @@ void TDesignerInput::unwatch(QWidget *widget)
 void TDesignerInput::refresh()
 {
     m_watched.removeIf([](const QPointer<QWidget> &w) { return w.isNull(); });
+    m_tracked.removeIf([](const QPointer<QWidget> &w) { return w.isNull(); });
     watch(m_designControl);
 }
 
@@ -260,6 +278,8 @@ bool TDesignerInput::process(QWidget *target, QEvent *event)
 {
     if (!m_designer.Active() || !m_designControl || isExcluded(target))
         return false;
+    if (m_deliveringKey && (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease))
+        return false;
     switch (event->type()) {
     case QEvent::ChildAdded:
     case QEvent::ChildPolished: {
@@ -277,6 +297,13 @@ bool TDesignerInput::process(QWidget *target, QEvent *event)
     case QEvent::ContextMenu:
         // Controls keep their own context menus to themselves while designed.
         return !m_designer.IsProtected(m_designer.FindWinControl(target));
+    case QEvent::Move:
+    case QEvent::Resize:
+        // Whatever moved or sized a selected control (an inspector edit that
+        // refits a label, a font, a command), its handles and marks follow.
+        if (target != m_designControl && m_session.action() == maNone && m_designer.ControlIndex(target) >= 0)
+            m_designer.UpdateGrabs();
+        break;
     default:
         break;
     }
@@ -293,11 +320,17 @@ bool TDesignerInput::process(QWidget *target, QEvent *event)
     m_designer.Lock();
     const bool swallowed = dispatch(msg);
     m_designer.Unlock();
-    // The handler may have changed the key of a key message.
+    // A key the handler rewrote goes on to the control in its new form.
     if (!swallowed && (msg.message == WM_KEYDOWN || msg.message == WM_KEYUP)) {
         auto *ke = static_cast<QKeyEvent *>(event);
-        if (msg.key != ke->key())
+        if (msg.key != ke->key()) {
+            QKeyEvent rewritten(ke->type(), msg.key, msg.shift, keyText(msg.key, msg.shift), ke->isAutoRepeat(),
+                                ke->count());
+            m_deliveringKey = true;
+            QCoreApplication::sendEvent(target, &rewritten);
+            m_deliveringKey = false;
             return true;
+        }
     }
     return swallowed || msg.message == 0;
 }
@@ -367,9 +400,6 @@ bool TDesignerInput::dispatch(TDesignMessage &msg)
         return true;
     case WM_RBUTTONUP:
         rightButtonUp(msg);
-        return true;
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONUP:
         return true;
     case WM_KEYDOWN:
         keyDown(msg);

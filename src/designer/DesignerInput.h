@@ -98,6 +98,11 @@ private:
     QList<QPointer<QWidget>> m_watched; // widgets carrying our event filter (mpEvent)
     QSet<const QWidget *> m_watchedSet; // the same, for the membership test
     QObject m_watchContext;             // receiver of the watched widgets' destroyed signals
+    // Widgets whose mouse tracking the engine switched on: moves without a
+    // button (the component hint) reach it only so.
+    QList<QPointer<QWidget>> m_tracked;
+    // A key rewritten by OnKeyDown or OnKeyUp on its way to its control.
+    bool m_deliveringKey = false;
     QPointer<QWidget> m_menuControl;
     // The last event handled, so that a mouse or key event passed on to a
     // parent widget is not handled a second time there.

@@ -88,11 +88,17 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    // One handle mark: the part of it that its parent shows, where its
+    // picture starts, and the picture.
     struct Mark
     {
         QRect rect;
+        QPoint origin;
         QPixmap look;
-        bool operator==(const Mark &o) const { return rect == o.rect && look.cacheKey() == o.look.cacheKey(); }
+        bool operator==(const Mark &o) const
+        {
+            return rect == o.rect && origin == o.origin && look.cacheKey() == o.look.cacheKey();
+        }
     };
     struct Line
     {

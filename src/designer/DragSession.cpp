@@ -203,8 +203,10 @@ void TDragSession::startDrag(QWidget *control, TGrabPosition handle, const QPoin
         }
     }
     // Sizing starts at once; a move waits for the drag distance, so that a
-    // click stays a click.
+    // click stays a click. The hint shows from the press on.
     m_started = handle != gpNone;
+    if (m_designer.ShowMoveSizeHint())
+        showHintText(dragHintText(), m_designControl->mapToGlobal(designPos));
 }
 
 void TDragSession::startSelecting(const QPoint &designPos)
@@ -325,11 +327,8 @@ void TDragSession::moveTo(const QPoint &designPos, Qt::KeyboardModifiers shift, 
     switch (m_action) {
     case maDragging: {
         dragTo(designPos, shift);
-        const QRect r = dragRect();
-        if (hint && m_action == maDragging && m_started)
-            showHintText(m_handle == gpNone ? QString::asprintf("%d, %d", r.x(), r.y())
-                                            : QString::asprintf("%d x %d", r.width(), r.height()),
-                         globalPos);
+        if (hint && m_action == maDragging)
+            showHintText(dragHintText(), globalPos);
         break;
     }
     case maSelecting:
@@ -392,6 +391,13 @@ void TDragSession::cancel()
 }
 
 // ---- the move/size hint ----
+
+QString TDragSession::dragHintText() const
+{
+    const QRect r = dragRect();
+    return m_handle == gpNone ? QString::asprintf("%d, %d", r.x(), r.y())
+                              : QString::asprintf("%d x %d", r.width(), r.height());
+}
 
 void TDragSession::showHintText(const QString &text, const QPoint &globalPos)
 {

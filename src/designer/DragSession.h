@@ -85,6 +85,8 @@ signals:
 
 private:
     void dragTo(QPoint designPos, Qt::KeyboardModifiers shift);
+    // "Left, Top" while moving, "Width x Height" while sizing.
+    QString dragHintText() const;
     void showHintText(const QString &text, const QPoint &globalPos);
     void hideHint();
 

@@ -358,23 +358,27 @@ void TCustomFormDesigner::DeleteComponent(QObject *component)
 QWidget *TCustomFormDesigner::ControlAtMousePos(QWidget *parent, const QPoint &pos) const
 {
     // Deepest designable control under pos (parent's coordinates), topmost
-    // first; transparent controls are looked through.
+    // first; transparent controls are looked through. Graphic controls lie
+    // on their parent's surface, beneath every windowed control of it.
     const QObjectList &children = parent->children();
-    for (auto it = children.crbegin(); it != children.crend(); ++it) {
-        if (!(*it)->isWidgetType())
-            continue;
-        auto *w = static_cast<QWidget *>(*it);
-        if (w->isHidden() || !w->geometry().contains(pos) || !IsDesignable(w))
-            continue;
-        QWidget *deeper = ControlAtMousePos(w, pos - w->pos());
-        if (deeper == w)
-            deeper = nullptr;
-        if (IsTransparent(w)) {
-            if (deeper)
-                return deeper;
-            continue;
+    for (const bool graphic : {false, true}) {
+        for (auto it = children.crbegin(); it != children.crend(); ++it) {
+            if (!(*it)->isWidgetType())
+                continue;
+            auto *w = static_cast<QWidget *>(*it);
+            if (ControlLayout::isGraphic(w) != graphic || w->isHidden() || !w->geometry().contains(pos)
+                || !IsDesignable(w))
+                continue;
+            QWidget *deeper = ControlAtMousePos(w, pos - w->pos());
+            if (deeper == w)
+                deeper = nullptr;
+            if (IsTransparent(w)) {
+                if (deeper)
+                    return deeper;
+                continue;
+            }
+            return deeper ? deeper : w;
         }
-        return deeper ? deeper : w;
     }
     return parent;
 }

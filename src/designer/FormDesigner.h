@@ -220,6 +220,9 @@ public:
     QPixmap gridBitmap() const { return m_gridBitmap; }
     // The pre-drawn handle of each look, as handles and multi-selection marks show it.
     QPixmap grabBitmap(TGrabType type) const { return m_grabBitmap[type]; }
+    // What a mark of that look shows: the type's glyph (its transparent
+    // colour left out) where glyphs are used and one is set, else the bitmap.
+    QPixmap grabLook(TGrabType type) const { return m_grabLook[type]; }
     int ControlIndex(QWidget *control) const;
     void AddControl(QWidget *control);
     void DeleteControl(QWidget *control);
@@ -401,6 +404,7 @@ private:
     QPointer<QWidget> m_underlay; // paints the grid under the controls
     QList<QPointer<TComponentContainer>> m_containers;
     QPixmap m_grabBitmap[3];
+    QPixmap m_grabLook[3];
     QPixmap m_gridBitmap;
     Qt::FocusPolicy m_savedFocusPolicy = Qt::NoFocus;
     QPointer<QWidget> m_palette; // the TfrmAlignmentPalette, once made

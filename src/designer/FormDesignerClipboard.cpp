@@ -33,14 +33,6 @@ TStreamFormat streamFormat(TDFMFormat format)
     return format == dfmText ? TStreamFormat::Text : TStreamFormat::Binary;
 }
 
-bool hasSelectedAncestor(const QWidget *w, const QList<QWidget *> &selection)
-{
-    for (const QWidget *p = w->parentWidget(); p; p = p->parentWidget())
-        if (selection.contains(p))
-            return true;
-    return false;
-}
-
 void showIfVisible(QWidget *w)
 {
     const TControl *c = TControl::from(w);
@@ -115,15 +107,15 @@ void TCustomFormDesigner::CopyToClipboard()
 {
     if (!m_active || !currentControl())
         return;
-    // A control whose parent is selected too is written inside the parent;
-    // taken out first, the parent stays even when the inner one is current.
+    // Only the current control's siblings are copied; then a control whose
+    // parent is selected too is written inside the parent.
+    prepareSelection(false);
     {
         const QList<QWidget *> selected = selection();
         for (QWidget *c : selected)
-            if (hasSelectedAncestor(c, selected))
+            if (selected.contains(c->parentWidget()))
                 DeleteControl(c);
     }
-    prepareSelection(false);
 
     // Non-visual components: the component streams carry controls only, so
     // their containers leave the selection for the copy and come back after.
@@ -200,13 +192,13 @@ void TCustomFormDesigner::PasteFromClipboard()
 {
     if (!CanPaste())
         return;
+    // The selection is emptied first, so a paste that fails leaves none.
+    QWidget *target = pasteTarget();
+    ClearControls();
     const QMimeData *mime = QGuiApplication::clipboard()->mimeData();
     const QByteArray bytes = mime ? mime->data(clipboardFormat()) : QByteArray();
     if (bytes.isEmpty())
         throw EFormDesigner(QString::fromLatin1(kCannotReadClipboard));
-
-    QWidget *target = pasteTarget();
-    ClearControls();
 
     QBuffer buffer;
     buffer.setData(bytes);

@@ -30,6 +30,18 @@ void TCustomFormDesigner::updateGrabBitmaps()
         p.setBrush(Qt::NoBrush);
         p.drawRect(0, 0, m_grabSize - 1, m_grabSize - 1);
         m_grabBitmap[type] = bitmap;
+        m_grabLook[type] = bitmap;
+        if (m_useGrabGlyphs && !m_grabGlyph[type].isNull()) {
+            QImage glyph = m_grabGlyph[type].toImage().convertToFormat(QImage::Format_ARGB32);
+            const QRgb transparent = m_grabsTransparentColor.toQColor().rgb() & 0xffffff;
+            for (int y = 0; y < glyph.height(); ++y) {
+                auto *line = reinterpret_cast<QRgb *>(glyph.scanLine(y));
+                for (int x = 0; x < glyph.width(); ++x)
+                    if ((line[x] & 0xffffff) == transparent)
+                        line[x] = 0;
+            }
+            m_grabLook[type] = QPixmap::fromImage(glyph);
+        }
     }
     UpdateGrabs();
 }

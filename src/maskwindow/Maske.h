@@ -12,6 +12,7 @@
 class QCloseEvent;
 class TAdvOfficePage;
 class TAdvOfficePager;
+class TCurrentControlWatch;
 class TMaskHost;
 struct TDesignMessage;
 class TcxEditStyleController;
@@ -111,6 +112,7 @@ private:
     TMaskHost *m_host = nullptr;
     bool m_shownOnce = false;
     TFormDesigner *m_formDesigner2 = nullptr;
+    TCurrentControlWatch *m_currentWatch = nullptr;
     QPointer<QScrollArea> m_scrollBox;
     QPointer<TMaskDocument> m_document;
 };

@@ -102,9 +102,49 @@ TPagerDrag *pagerDrag(const TMaske *mask)
 
 } // namespace
 
+// Follows the designer's current control: whatever moves or sizes it (an
+// inspector edit that refits a label, a font, the size dialog), the main
+// window's position fields show where it is.
+class TCurrentControlWatch : public QObject
+{
+public:
+    explicit TCurrentControlWatch(QObject *parent) : QObject(parent)
+    {
+        setObjectName(QStringLiteral("CurrentControlWatch"));
+    }
+
+    std::function<void(QWidget *)> changed;
+
+    void follow(QWidget *control)
+    {
+        if (m_control == control)
+            return;
+        if (m_control)
+            m_control->removeEventFilter(this);
+        m_control = control;
+        if (control)
+            control->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == m_control && (event->type() == QEvent::Move || event->type() == QEvent::Resize) && changed)
+            changed(m_control);
+        return false;
+    }
+
+private:
+    QPointer<QWidget> m_control;
+};
+
 void TMaske::wireDesigner()
 {
     TFormDesigner *d = m_formDesigner2;
+    m_currentWatch = new TCurrentControlWatch(this);
+    m_currentWatch->changed = [this](QWidget *c) {
+        if (m_host && m_formDesigner2->ControlCount() == 1)
+            m_host->setPositionFields(c->y(), c->height(), c->x(), c->width());
+    };
     d->OnChange = [this](QObject *) { FormDesigner2Change(); };
     d->OnSelectControl = [this](QObject *, QWidget *c) { FormDesigner2SelectControl(c); };
     // The tool bars and the inspector also follow a selection that grows or
@@ -156,6 +196,8 @@ void TMaske::FormActivate()
     if (m_host) {
         m_host->UpdateComponents();
         m_host->maskActivated(this, m_document->cxStyleController());
+        // The tool bars show this mask's selection, not the last mask's.
+        m_host->FormDesigner1SelectControl(this, m_formDesigner2->currentControl());
     }
 }
 
@@ -198,6 +240,7 @@ void TMaske::FormDesigner2Change()
 
 void TMaske::FormDesigner2SelectControl(QWidget *control)
 {
+    m_currentWatch->follow(control);
     if (m_host)
         m_host->FormDesigner1SelectControl(this, control);
 }

@@ -23,8 +23,11 @@ bool acceptsControls(QWidget *w)
 
 void TMaske::FormDesigner2Message(TDesignMessage &msg)
 {
-    // Only a left click on this mask while the palette holds the designer.
-    if (msg.message != DesignMessages::WM_LBUTTONDOWN || !m_formDesigner2->Locked() || !msg.hwnd)
+    // Only a left click on this mask while the palette holds the designer,
+    // or holds a tool armed on another mask: the tool places on whichever
+    // mask the user clicks.
+    const bool armed = m_host && m_host->ArmedTool() != 0;
+    if (msg.message != DesignMessages::WM_LBUTTONDOWN || !(m_formDesigner2->Locked() || armed) || !msg.hwnd)
         return;
     QWidget *w = msg.hwnd;
     while (w && w != this && !qobject_cast<QMdiArea *>(w))
@@ -32,6 +35,9 @@ void TMaske::FormDesigner2Message(TDesignMessage &msg)
     if (w != this)
         return;
     msg.message = 0;
+    // The clicked mask is the one the tool bars and the inspector serve.
+    if (QMdiArea *area = mdiArea(); area && area->activeSubWindow() != this)
+        area->setActiveSubWindow(this);
 
     QWidget *container = nullptr;
     if (msg.hwnd == m_document) {

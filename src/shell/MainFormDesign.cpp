@@ -409,12 +409,11 @@ void TMainForm::PopItemsClick(int tag)
         designer->AlignToGrid();
         break;
     case 2:
-        if (current)
-            current->raise();
+        // Within its own layer: the grid stays below, the handles above.
+        ControlLayout::bringToFront(current);
         break;
     case 3:
-        if (current)
-            current->lower();
+        ControlLayout::sendToBack(current);
         break;
     case 4:
         designer->AlignDialog();

@@ -111,6 +111,45 @@ private:
     QWidget *m_container;
 };
 
+// The lowest and the highest sibling of w in one layer (graphic or
+// windowed controls), nullptr where the layer holds nothing but w.
+struct LayerEnds
+{
+    QWidget *lowest = nullptr;
+    QWidget *highest = nullptr;
+};
+
+LayerEnds layerEnds(const QWidget *w, bool graphic)
+{
+    LayerEnds ends;
+    if (!w->parentWidget())
+        return ends;
+    for (QObject *o : w->parentWidget()->children()) {
+        const TControl *c = TControl::from(o);
+        if (o == w || !c || c->widget()->isWindow() || c->classInfo().windowed == graphic)
+            continue;
+        if (!ends.lowest)
+            ends.lowest = c->widget();
+        ends.highest = c->widget();
+    }
+    return ends;
+}
+
+// Qt stacks a widget under another but not over one: under whatever lies
+// directly above `below`.
+void stackAbove(QWidget *w, QWidget *below)
+{
+    const QObjectList &siblings = w->parentWidget()->children();
+    for (qsizetype i = siblings.indexOf(below) + 1; i < siblings.size(); ++i) {
+        QObject *o = siblings.at(i);
+        if (o != w && o->isWidgetType() && !static_cast<QWidget *>(o)->isWindow()) {
+            w->stackUnder(static_cast<QWidget *>(o));
+            return;
+        }
+    }
+    w->raise();
+}
+
 bool hasAlignedChildren(QWidget *container)
 {
     const ContainerInfo *info = ContainerInfo::of(container, false);
@@ -265,6 +304,35 @@ void endLoading(const QList<QWidget *> &controls)
     // them out once now.
     for (QWidget *parent : std::as_const(parents))
         alignControls(parent);
+}
+
+bool isGraphic(const QWidget *control)
+{
+    const TControl *c = TControl::from(control);
+    return c && !c->classInfo().windowed;
+}
+
+void bringToFront(QWidget *control)
+{
+    if (!TControl::from(control) || !control->parentWidget())
+        return;
+    const bool graphic = isGraphic(control);
+    if (graphic) {
+        if (QWidget *windowed = layerEnds(control, false).lowest) {
+            control->stackUnder(windowed);
+            return;
+        }
+    }
+    if (QWidget *top = layerEnds(control, graphic).highest)
+        stackAbove(control, top);
+}
+
+void sendToBack(QWidget *control)
+{
+    if (!TControl::from(control) || !control->parentWidget())
+        return;
+    if (QWidget *bottom = layerEnds(control, isGraphic(control)).lowest)
+        control->stackUnder(bottom);
 }
 
 } // namespace ControlLayout
@@ -518,6 +586,14 @@ void TControl::parentChanged()
             info->tabs.append(m_self);
             info->tabsChanged();
         }
+    }
+    // A graphic control joins the top of its layer, which lies beneath the
+    // windowed controls that are there already.
+    if (!classInfo().windowed) {
+        QWidget *windowed = layerEnds(m_self, false).lowest;
+        const QObjectList &siblings = parent->children();
+        if (windowed && siblings.indexOf(m_self) > siblings.indexOf(windowed))
+            m_self->stackUnder(windowed);
     }
     if (m_parentColor)
         applyColor();

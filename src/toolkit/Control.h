@@ -181,4 +181,13 @@ QList<QWidget *> tabList(QWidget *container);
 // given while loading are applied all at once (ties keep the order of
 // creation), then each control's loading ends.
 void endLoading(const QList<QWidget *> &controls);
+
+// Graphic controls (labels, data labels, bevels, shapes, pictures) are drawn
+// on their parent's surface: they lie beneath every windowed control of that
+// parent whatever the order they were made in. A control comes to the front
+// or goes to the back within its own layer; widgets that are no controls
+// (a designer's grid below, its handles and glass above) keep their places.
+bool isGraphic(const QWidget *control);
+void bringToFront(QWidget *control);
+void sendToBack(QWidget *control);
 } // namespace ControlLayout

@@ -136,10 +136,17 @@ void TestClipboard::childrenGoWithTheirParentToAnyForm()
     auto *other = one.add<TMaskBtn>(nullptr, {300, 10, 80, 25});
     one.designer->setActive(true);
 
-    // The child first: it is current, yet the panel is what gets written.
+    // The child current: only it and its siblings go; the panel around it stays out.
     one.select({inner, panel, other});
     QList<QObject *> copied;
     one.designer->OnCopyComponent = [&](QObject *, QObject *c) { copied << c; };
+    one.designer->CopyToClipboard();
+    QCOMPARE(copied, (QList<QObject *>{inner}));
+    QCOMPARE(one.designer->selection(), (QList<QWidget *>{inner}));
+
+    // The panel current: the child goes inside it.
+    copied.clear();
+    one.select({panel, inner, other});
     one.designer->CopyToClipboard();
     QCOMPARE(copied, (QList<QObject *>{panel, other}));
     QCOMPARE(one.designer->selection(), (QList<QWidget *>{panel, other}));
@@ -200,6 +207,14 @@ void TestClipboard::foreignClipboardContentPastesNothing()
         QCOMPARE(errors.size(), 1);
     }
     QCOMPARE(changes, 0);
+
+    // Our format without data: raised, and the selection is emptied.
+    auto *empty = new QMimeData;
+    empty->setData(kFormat, QByteArray());
+    QGuiApplication::clipboard()->setMimeData(empty);
+    f.designer->AddControl(button);
+    QVERIFY_THROWS_EXCEPTION(EFormDesigner, f.designer->PasteFromClipboard());
+    QCOMPARE(f.designer->ControlCount(), 0);
 
     // A good component followed by garbage: all or nothing.
     f.designer->AddControl(button);
@@ -316,8 +331,9 @@ void TestClipboard::layoutRoundTripsThroughStreamsAndForms()
     const QString file = dir.filePath(QStringLiteral("layout.dfm"));
     f.designer->SaveToDFM(file, dfmText);
     const QByteArray text = readFileBytes(file);
-    QVERIFY(text.startsWith("object Panel1: TPanel"));
-    QCOMPARE(text.count("\nobject "), 1); // the label follows the panel at the top level
+    // Graphic controls lie beneath the windowed ones and come first.
+    QVERIFY(text.startsWith("object Label1: TLabel"));
+    QCOMPARE(text.count("\nobject Panel1: TPanel"), 1);
     // The handles sit in the inner panel when clearing takes it away; they
     // must still serve afterwards.
     f.designer->AddControl(named<TcxTextEdit>(f.form, QStringLiteral("cxTextEdit1")));
@@ -369,8 +385,8 @@ void TestClipboard::iniLayoutRoundTrip()
     QTemporaryDir dir;
     const QString file = dir.filePath(QStringLiteral("layout.ini"));
     f.designer->SaveToFile(file);
-    QCOMPARE(saved, (QStringList{panel->objectName(), group->objectName(), edit->objectName(),
-                                 edit2->objectName(), label->objectName()}));
+    QCOMPARE(saved, (QStringList{label->objectName(), panel->objectName(), group->objectName(), edit->objectName(),
+                                 edit2->objectName()}));
 
     // Moved, reordered, one removed: loading puts everything back.
     panel->setGeometry(100, 100, 50, 50);

@@ -2,6 +2,7 @@
 // hint while the button is held, snapping, axis locking, handles, limits,
 // direct moves, alignment lines) and with the arrow keys; the rubber band,
 // placing new controls, and the grid background.
+#include <QPainter>
 #include <QScreen>
 #include <QtTest>
 
@@ -46,14 +47,15 @@ void TestDragging::moveReportsOnceAndAClickChangesNothing()
     r.watch(f.designer);
 
     // A click selects and changes nothing; neither does a travel within the
-    // drag distance.
+    // drag distance. The hint shows from the press on.
     click(button);
     QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(button));
     {
         HeldMouse mouse(button, {10, 10});
+        QCOMPARE(hintText(), QStringLiteral("300, 40"));
         mouse.moveBy({2, 1});
         QCOMPARE(f.designer->MouseAction(), maDragging);
-        QCOMPARE(hintText(), QString());
+        QCOMPARE(hintText(), QStringLiteral("300, 40"));
         mouse.release();
     }
     QCOMPARE(button->geometry(), QRect(300, 40, 80, 24));
@@ -258,6 +260,21 @@ void TestDragging::multipleSelectionTravelsTogether()
     // One selected again: the marks go, every one of them.
     click(b);
     QVERIFY(screenIsCurrent(&f.form));
+
+    // Marks show the multi glyph (without its transparent colour) and only
+    // on their parent: a control in a panel's corner is marked inside the panel.
+    QPixmap glyph(5, 5);
+    glyph.fill(Qt::green);
+    QPainter(&glyph).fillRect(0, 0, 1, 1, Qt::black);
+    f.designer->setMultiGrabGlyph(glyph);
+    f.designer->setUseGrabGlyphs(true);
+    inner->setBounds(0, 0, 60, 24);
+    f.select({b, inner});
+    shown = overlayImage(f.surface);
+    QCOMPARE(shown.pixel(290, 130), qRgb(0, 255, 0));
+    QCOMPARE(qAlpha(shown.pixel(288, 128)), 0);
+    QCOMPARE(shown.pixel(50, 250), qRgb(0, 255, 0));
+    QCOMPARE(qAlpha(shown.pixel(49, 249)), 0);
 }
 
 void TestDragging::moveLimits()

@@ -1,6 +1,8 @@
 // The engine's core as a user meets it: clicking, Shift+clicking, handles,
 // keys, the right button, double clicks, and the message record.
+#include <QLineEdit>
 #include <QMenu>
+#include <QToolTip>
 #include <QtTest>
 
 #include "Edits.h"
@@ -24,6 +26,18 @@ void qclick(QWidget *w, Qt::KeyboardModifiers mods = {}, Qt::MouseButton button 
 {
     QTest::mouseClick(w, button, mods, QPoint(3, 3));
 }
+
+// Counts the presses of the middle button that reach it.
+struct MiddleButtonWatch : TMaskBtn
+{
+    using TMaskBtn::TMaskBtn;
+    int presses = 0;
+    void mousePressEvent(QMouseEvent *e) override
+    {
+        presses += e->button() == Qt::MiddleButton;
+        TMaskBtn::mousePressEvent(e);
+    }
+};
 } // namespace
 
 void TestSelection::clickShiftClickAndHandles()
@@ -158,6 +172,12 @@ void TestSelection::messagesCanBeSwallowedAndBothProcessorsWork()
             QCOMPARE(e.message(), QStringLiteral("Cannot change message processor when TFormDesigner is active"));
         }
 
+        // Moves without a button reach the engine: the component hint shows.
+        f.designer->setShowComponentHint(true);
+        // (Qt drops a move to where the mouse already is: each round its own point.)
+        QTest::mouseMove(f.form.windowHandle(), button->mapTo(&f.form, QPoint(5, 5 + int(processor))));
+        QCOMPARE(QToolTip::text(), QStringLiteral("MaskBtn1: TMaskBtn"));
+
         // A handler that swallows the button-down keeps the engine out of it.
         QList<unsigned> seen;
         f.designer->OnMessage = [&](QObject *, TDesignMessage &msg) {
@@ -226,6 +246,18 @@ void TestSelection::keysSelectAndReachTheHandlers()
     QTest::keyClick(f.surface, Qt::Key_Tab, Qt::ShiftModifier);
     QCOMPARE(f.designer->currentControl(), static_cast<QWidget *>(inner));
 
+    // A key the handler rewrites is delivered as rewritten.
+    auto *line = new QLineEdit(f.surface);
+    line->show();
+    const auto recordKeys = f.designer->OnKeyDown;
+    f.designer->OnKeyDown = [](QObject *, int &key, Qt::KeyboardModifiers) {
+        if (key == Qt::Key_A)
+            key = Qt::Key_B;
+    };
+    QTest::keyClick(line, Qt::Key_A);
+    QCOMPARE(line->text(), QStringLiteral("b"));
+    f.designer->OnKeyDown = recordKeys;
+
     // Without KeySelect an unmodified key passes untouched, no event.
     f.designer->setKeySelect(false);
     keys.clear();
@@ -247,6 +279,7 @@ void TestSelection::rightButtonAndDoubleClick()
     auto *a = f.add<TMaskBtn>(nullptr, {30, 30, 80, 25});
     auto *b = f.add<TMaskBtn>(nullptr, {130, 30, 80, 25});
     auto *c = f.add<TMaskBtn>(nullptr, {230, 30, 80, 25});
+    auto *middle = f.add<MiddleButtonWatch>(nullptr, {30, 100, 80, 25});
     QMenu menu;
     menu.addAction(QStringLiteral("Eins"));
     f.designer->setPopupMenu(&menu);
@@ -294,6 +327,10 @@ void TestSelection::rightButtonAndDoubleClick()
     QCOMPARE(doubled, QList<QWidget *>{a});
     QTest::mouseDClick(c, Qt::LeftButton, {}, QPoint(3, 3));
     QCOMPARE(doubled.size(), 1);
+
+    // The middle button is the control's.
+    qclick(middle, {}, Qt::MiddleButton);
+    QCOMPARE(middle->presses, 1);
 }
 
 void TestSelection::designingStateFollowsTheEngine()

@@ -1,6 +1,7 @@
 // Designing a mask from the main window as a user does: palette clicks,
 // clicks on the mask, the inspector following, the position and font tool
 // bars, delete and the keys.
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
@@ -9,9 +10,11 @@
 #include "AppPaths.h"
 #include "Components.h"
 #include "Containers.h"
+#include "DesignerWidgets.h"
 #include "FormDesigner.h"
 #include "Edits.h"
 #include "Graphics.h"
+#include "Label.h"
 #include "ObjectInspector.h"
 #include "EditStyle.h"
 #include "TestSupport.h"
@@ -21,6 +24,16 @@
 #include <QPushButton>
 
 using namespace ShellTest;
+
+namespace {
+TGrabHandle *handleAt(QWidget *parent, TGrabPosition position)
+{
+    for (TGrabHandle *h : parent->findChildren<TGrabHandle *>(Qt::FindDirectChildrenOnly))
+        if (h->Position() == position)
+            return h;
+    return nullptr;
+}
+} // namespace
 
 class TestDesigning : public QObject
 {
@@ -87,6 +100,18 @@ void TestDesigning::paletteClicksPlaceNamedControls()
     QVERIFY(pager);
     QCOMPARE(pager->PageCount(), 2);
     QVERIFY(mask->Modified());
+
+    // A tool armed while another mask is active places on the mask clicked.
+    clickTool(form.get(), "FileNewItem");
+    TMaske *other = form->activeMask();
+    clickTool(form.get(), "dxBarBtnLabel");
+    QTest::mouseClick(surface, Qt::LeftButton, {}, QPoint(400, 300));
+    QWidget *placed = mask->FormDesigner2()->currentControl();
+    QVERIFY(qobject_cast<TLabel *>(placed));
+    QCOMPARE(placed->pos(), QPoint(400, 300));
+    QCOMPARE(form->activeMask(), mask);
+    QVERIFY(action(form.get(), "dxBarBtnDefault")->isChecked());
+    QVERIFY(!other->FormDesigner2()->Locked());
 }
 
 void TestDesigning::toolBarsFollowTheSelection()
@@ -99,6 +124,7 @@ void TestDesigning::toolBarsFollowTheSelection()
 
     // With a bevel the font tools are off; with a button they are on.
     placeWith(form.get(), "dxBarBtnBevel", surface, QPoint(300, 20));
+    QWidget *bevel = designer->currentControl();
     auto *fontName = form->findChild<QWidget *>(QStringLiteral("dxBarFontNameCombo1"));
     QVERIFY(!fontName->isEnabled());
     placeWith(form.get(), "dxBarBtnButton", surface, QPoint(16, 20));
@@ -133,6 +159,45 @@ void TestDesigning::toolBarsFollowTheSelection()
     tabOrder->selectAll();
     QTest::keyClicks(tabOrder, QStringLiteral("0"));
     QCOMPARE(TControl::from(current)->TabOrder(), 0);
+
+    // The context menu moves a control within its own layer: a bevel to the
+    // front stays beneath the buttons, a button to the back above the grid,
+    // a button to the front beneath its handles.
+    auto *popup = form->findChild<QMenu *>(QStringLiteral("PopupMenu1"));
+    const auto menuOn = [&](QWidget *w, const char *item) {
+        QTest::mouseClick(w, Qt::RightButton, {}, QPoint(3, 3));
+        QCoreApplication::processEvents();
+        QVERIFY(popup->isVisible());
+        clickMenuItem(popup, action(form.get(), item));
+    };
+    const auto below = [surface](QObject *lower, QObject *upper) {
+        return surface->children().indexOf(lower) < surface->children().indexOf(upper);
+    };
+    menuOn(bevel, "dxBarButton2");
+    QVERIFY(below(bevel, first));
+    menuOn(first, "dxBarButton3");
+    QVERIFY(below(surface->findChild<QWidget *>(QStringLiteral("_designUnderlay")), first));
+    menuOn(first, "dxBarButton2");
+    QVERIFY(below(five.last(), first));
+    QVERIFY(below(first, surface->findChild<TGrabHandle *>()));
+
+    // An inspector edit that refits a label: the handles and the position
+    // fields follow; after a visit to another mask they show this one again.
+    placeWith(form.get(), "dxBarBtnLabel", surface, QPoint(16, 300));
+    QWidget *label = designer->currentControl();
+    auto *caption = form->ObjInsp()->findChild<QLineEdit *>(QStringLiteral("LabelCaption"));
+    caption->selectAll();
+    QTest::keyClicks(caption, QStringLiteral("Eine deutlich laengere Beschriftung"));
+    QVERIFY(label->width() > 150);
+    QCOMPARE(width->value(), label->width());
+    QCOMPARE(handleAt(surface, gpRightBottom)->Rect(),
+             TGrabHandles::handleRect(designer->GrabMode(), designer->GrabSize(), label->geometry(), gpRightBottom));
+    clickTool(form.get(), "FileNewItem");
+    placeWith(form.get(), "dxBarBtnButton", form->activeMask()->document(), QPoint(200, 200));
+    form->mdiArea()->setActiveSubWindow(mask);
+    QCOMPARE(left->value(), label->x());
+    QCOMPARE(width->value(), label->width());
+    QCOMPARE(form->ObjInsp()->currentControl(), label);
 }
 
 void TestDesigning::styleAndSettingsOpenFromTheMenus()

@@ -6,6 +6,8 @@
 
 #include "AppPaths.h"
 #include "Control.h"
+#include "Edits.h"
+#include "Graphics.h"
 #include "FormDesigner.h"
 #include "ObjectInspector.h"
 #include "TestSupport.h"
@@ -21,6 +23,7 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup() { flushDeletes(); }
     void runModeAndBack();
+    void framedFieldsTakeTheClickInBothModes();
     void resolutionListSizesTheMask();
 
 private:
@@ -64,6 +67,49 @@ void TestModes::runModeAndBack()
     QVERIFY(form->ObjInsp()->isVisible());
     for (int i = 0; i < TMainForm::BarCount; ++i)
         QVERIFY2(form->bar(i)->isVisible(), qPrintable(form->bar(i)->windowTitle()));
+}
+
+void TestModes::framedFieldsTakeTheClickInBothModes()
+{
+    // The sample masks frame edit fields and check boxes with bevels made
+    // after them; a click on such a field reaches the field, through the
+    // window as the user clicks.
+    auto form = showMainForm();
+    const QDir dir(QStringLiteral(FEROLITH_SOURCE_DIR "/examples/masks"));
+    int clicked = 0;
+    for (const QString &file : dir.entryList({QStringLiteral("*.dbm")})) {
+        TMaske *mask = form->LoadMask(dir.filePath(file));
+        mask->setGeometry(form->mdiArea()->viewport()->rect());
+        QList<QWidget *> framed;
+        for (QWidget *field : mask->document()->findChildren<QWidget *>()) {
+            if (!qobject_cast<TcxTextEdit *>(field) && !qobject_cast<TcxDBCheckBox *>(field))
+                continue;
+            for (TBevel *bevel : field->parentWidget()->findChildren<TBevel *>(Qt::FindDirectChildrenOnly))
+                if (bevel->geometry().contains(field->geometry()))
+                    framed << field;
+        }
+        clicked += int(framed.size());
+        const auto clickOn = [&](QWidget *field) {
+            mask->scrollBox()->ensureWidgetVisible(field);
+            QTest::mouseClick(form->windowHandle(), Qt::LeftButton, {}, field->mapTo(form.get(), QPoint(4, 4)));
+        };
+        for (QWidget *field : framed) {
+            clickOn(field);
+            QVERIFY2(mask->FormDesigner2()->currentControl() == field, qPrintable(file + field->objectName()));
+        }
+        QMenu *options = form->findChild<QMenu *>(QStringLiteral("OptionsMenu"));
+        openMenu(form.get(), options);
+        clickMenuItem(options, action(form.get(), "RunModeItem"));
+        for (QWidget *field : framed) {
+            clickOn(field);
+            QVERIFY2(field->isAncestorOf(QApplication::focusWidget()) || field->hasFocus(),
+                     qPrintable(file + field->objectName()));
+        }
+        mask->setModified(false);
+        mask->close();
+        flushDeletes();
+    }
+    QVERIFY(clicked >= 20);
 }
 
 void TestModes::resolutionListSizesTheMask()

@@ -17,7 +17,7 @@ class TestControlLayer : public QObject
     Q_OBJECT
 
 private slots:
-    void tabOrderIsPerParentAndFollowsReparenting();
+    void tabOrderAndStackingArePerParent();
     void alignedChildrenShareTheClientArea();
     void systemColoursKeepTheirIdentity();
     void captionFollowsTheNameUntilChanged();
@@ -28,7 +28,7 @@ private slots:
     void geometryIsClampedNotCrashed();
 };
 
-void TestControlLayer::tabOrderIsPerParentAndFollowsReparenting()
+void TestControlLayer::tabOrderAndStackingArePerParent()
 {
     QWidget surface;
     auto *a = new TMaskBtn(&surface);
@@ -65,6 +65,29 @@ void TestControlLayer::tabOrderIsPerParentAndFollowsReparenting()
     QVERIFY(QTest::qWaitForWindowExposed(&surface));
     a->setTabOrder(1); // panel, a, c
     QCOMPARE(a->nextInFocusChain(), static_cast<QWidget *>(c));
+
+    // Graphic controls lie beneath the windowed ones whatever the order of
+    // making; front and back move a control within its own layer, between
+    // widgets that are no controls (a grid below, handles above).
+    auto *grid = new QWidget(&surface);
+    grid->lower();
+    auto *handles = new QWidget(&surface);
+    auto *bevel = new TBevel(&surface);
+    auto *shape = new TShape;
+    shape->setParent(&surface);
+    const auto stacking = [&surface] {
+        QList<QWidget *> order;
+        for (QObject *o : surface.children())
+            if (o->isWidgetType())
+                order << static_cast<QWidget *>(o);
+        return order;
+    };
+    QCOMPARE(stacking(), (QList<QWidget *>{grid, label, bevel, shape, a, panel, c, handles}));
+    ControlLayout::bringToFront(label);
+    ControlLayout::sendToBack(c);
+    ControlLayout::bringToFront(a);
+    ControlLayout::sendToBack(shape);
+    QCOMPARE(stacking(), (QList<QWidget *>{grid, shape, bevel, label, c, panel, a, handles}));
 }
 
 void TestControlLayer::alignedChildrenShareTheClientArea()
