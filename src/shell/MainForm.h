@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <functional>
+
 #include "EditStyle.h"
 #include "MaskHost.h"
 #include "MaskLoader.h"
@@ -172,6 +174,9 @@ private:
     void tabOrderSpinChange();
     void fontToolChange();
     TFormDesigner *activeDesigner() const;
+    // Runs an engine command; an engine error becomes an error message and
+    // the command ends there. Returns false when the engine refused.
+    bool runEngineCommand(const std::function<void()> &command);
 
     // MainFormWindows.cpp
     void createClientArea();

@@ -34,6 +34,19 @@ TFormDesigner *TMainForm::activeDesigner() const
     return mask ? mask->FormDesigner2() : nullptr;
 }
 
+bool TMainForm::runEngineCommand(const std::function<void()> &command)
+{
+    // The one place where the engine's errors meet the user: a bad clipboard
+    // or layout must not unwind through the event loop.
+    try {
+        command();
+        return true;
+    } catch (const EFormDesigner &error) {
+        UserDialogs::instance().messageDlg(this, error.message(), mtError, mbOK);
+        return false;
+    }
+}
+
 void TMainForm::createDesignTools()
 {
     m_formDesigner1 = new TFormDesigner(this);
@@ -337,7 +350,7 @@ void TMainForm::maskClosed(TMaske *mask)
 void TMainForm::CutItemClick()
 {
     if (TFormDesigner *designer = activeDesigner()) {
-        designer->CutToClipboard();
+        runEngineCommand([designer] { designer->CutToClipboard(); });
         UpdateComponents();
         UpdateBtn();
     }
@@ -346,7 +359,7 @@ void TMainForm::CutItemClick()
 void TMainForm::CopyItemClick()
 {
     if (TFormDesigner *designer = activeDesigner())
-        designer->CopyToClipboard();
+        runEngineCommand([designer] { designer->CopyToClipboard(); });
     UpdateBtn();
 }
 
@@ -355,7 +368,7 @@ void TMainForm::PasteItemClick()
     // The inspector's list is not rebuilt here; the next placement, cut,
     // delete or activation does it.
     if (TFormDesigner *designer = activeDesigner())
-        designer->PasteFromClipboard();
+        runEngineCommand([designer] { designer->PasteFromClipboard(); });
     if (TMaske *mask = activeMask())
         mask->document()->adoptEditStyle();
     UpdateBtn();
@@ -406,7 +419,7 @@ void TMainForm::PopItemsClick(int tag)
     QWidget *current = designer->currentControl();
     switch (tag) {
     case 1:
-        designer->AlignToGrid();
+        runEngineCommand([designer] { designer->AlignToGrid(); });
         break;
     case 2:
         if (current)
@@ -417,10 +430,10 @@ void TMainForm::PopItemsClick(int tag)
             current->lower();
         break;
     case 4:
-        designer->AlignDialog();
+        runEngineCommand([designer] { designer->AlignDialog(); });
         break;
     case 5:
-        runSizeDialog(this, designer);
+        runEngineCommand([this, designer] { runSizeDialog(this, designer); });
         break;
     case 6:
         break; // deliberately without effect in this menu

@@ -1,6 +1,8 @@
 // Designing a mask from the main window as a user does: palette clicks,
 // clicks on the mask, the inspector following, the position and font tool
 // bars, delete and the keys.
+#include <QClipboard>
+#include <QMimeData>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
@@ -179,6 +181,17 @@ void TestDesigning::pastedEditsShareTheMaskStyle()
     auto *copy = qobject_cast<TcxTextEdit *>(Components::findComponent(mask->document(), QStringLiteral("cxTextEdit2")));
     QVERIFY(copy);
     QCOMPARE(copy->StyleController(), mask->document()->cxStyleController());
+
+    // An empty payload is an engine error: it ends as a message, not as a crash.
+    ScriptedDialogs dialogs;
+    dialogs.messageAnswers << mrOk;
+    auto *mime = new QMimeData;
+    mime->setData(QStringLiteral("application/x-qt-windows-mime;value=\"CF_DesignedObjects\""), QByteArray());
+    QGuiApplication::clipboard()->setMimeData(mime);
+    QTest::keyClick(surface, Qt::Key_Insert, Qt::ShiftModifier);
+    QCOMPARE(dialogs.messages.size(), 1);
+    QCOMPARE(dialogs.messages.at(0).type, mtError);
+    QVERIFY(!Components::findComponent(mask->document(), QStringLiteral("cxTextEdit3")));
 }
 
 QTEST_MAIN(TestDesigning)
