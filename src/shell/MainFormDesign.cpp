@@ -448,7 +448,14 @@ void TMainForm::PopItemsClick(int tag)
 
 void TMainForm::SettingsItemClick()
 {
-    UserDialogs::instance().execDialog(m_frmSetup);
+    // Confirmed settings show at once on every open mask, not only on the
+    // next activation.
+    if (UserDialogs::instance().execDialog(m_frmSetup) != QDialog::Accepted)
+        return;
+    for (TMaske *mask : MDIChildren()) {
+        m_frmSetup->applyTo(mask->FormDesigner2());
+        mask->FormDesigner2()->UpdateGrabs();
+    }
 }
 
 void TMainForm::StyleItemClick()

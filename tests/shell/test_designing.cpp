@@ -3,6 +3,7 @@
 // bars, delete and the keys.
 #include <QClipboard>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
@@ -164,6 +165,17 @@ void TestDesigning::styleAndSettingsOpenFromTheMenus()
     QCOMPARE(dialogs.dialogTitles.last(), QStringLiteral("Einstellungen"));
     mask->FormActivate();
     QCOMPARE(mask->FormDesigner2()->GridStep(), 16);
+
+    // With OK they reach every open mask at once.
+    clickTool(form.get(), "FileNewItem");
+    dialogs.dialogAnswers << [](QDialog *dialog) {
+        dialog->findChild<QSpinBox *>(QStringLiteral("udnGridStep"))->setValue(24);
+        QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("btnOk")), Qt::LeftButton);
+        return dialog->result();
+    };
+    action(form.get(), "SettingsItem")->trigger();
+    QCOMPARE(mask->FormDesigner2()->GridStep(), 24);
+    QCOMPARE(form->activeMask()->FormDesigner2()->GridStep(), 24);
 }
 
 void TestDesigning::pastedEditsShareTheMaskStyle()
