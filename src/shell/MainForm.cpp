@@ -107,7 +107,21 @@ void TMainForm::FormShow()
 
 void TMainForm::FormClose(QCloseEvent *event)
 {
-    // The mask windows go first; one that refuses to close keeps the program running.
+    // Every changed mask is asked before any closes, so that "Abbrechen" on
+    // one keeps them all. The asked mask is the active one: a "Ja" saves it.
+    const QList<TMaske *> masks = MDIChildren();
+    for (TMaske *mask : masks) {
+        if (!mask->Modified())
+            continue;
+        m_mdiArea->setActiveSubWindow(mask);
+        if (!mask->FormCloseQuery()) {
+            event->ignore();
+            return;
+        }
+    }
+    // All agreed: closing them asks no second time.
+    for (TMaske *mask : masks)
+        mask->setModified(false);
     m_mdiArea->closeAllSubWindows();
     if (!visibleSubWindows().isEmpty()) {
         event->ignore();
