@@ -33,7 +33,29 @@ void UserDialogs::setInstance(UserDialogs *dialogs)
 
 bool TFileDialog::execute(QWidget *parent)
 {
-    return UserDialogs::instance().fileDialog(parent, *this);
+    if (!UserDialogs::instance().fileDialog(parent, *this))
+        return false;
+    const QString suffix = defaultSuffix();
+    if (kind == Save && !suffix.isEmpty() && !fileName.isEmpty() && QFileInfo(fileName).suffix().isEmpty()) {
+        fileName += QLatin1Char('.') + suffix;
+        if (!files.isEmpty())
+            files.first() = fileName;
+    }
+    return true;
+}
+
+QString TFileDialog::defaultSuffix() const
+{
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    const QStringList patterns = parts.value((filterIndex - 1) * 2 + 1).split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    if (patterns.size() == 1) {
+        const QString pattern = patterns.first().trimmed();
+        const QString ext = pattern.mid(2);
+        if (pattern.startsWith(QLatin1String("*.")) && !ext.isEmpty() && !ext.contains(QLatin1Char('*'))
+            && !ext.contains(QLatin1Char('?')))
+            return ext;
+    }
+    return defaultExt;
 }
 
 QString qtFilterFromFilterString(const QString &filter)
@@ -106,7 +128,12 @@ bool QtUserDialogs::fileDialog(QWidget *parent, TFileDialog &dialog)
     fd.setNameFilters(filters);
     if (dialog.filterIndex >= 1 && dialog.filterIndex <= filters.size())
         fd.selectNameFilter(filters.at(dialog.filterIndex - 1));
-    fd.setDefaultSuffix(dialog.defaultExt);
+    fd.setDefaultSuffix(dialog.defaultSuffix());
+    QObject::connect(&fd, &QFileDialog::filterSelected, &fd, [&fd, &dialog, filters](const QString &chosen) {
+        TFileDialog probe = dialog;
+        probe.filterIndex = int(filters.indexOf(chosen)) + 1;
+        fd.setDefaultSuffix(probe.defaultSuffix());
+    });
     // A remembered file name may stand where a folder is expected: use its folder.
     QString dir = dialog.initialDir;
     if (!dir.isEmpty() && QFileInfo(dir).isFile())

@@ -280,6 +280,13 @@ void TestMainFormFiles::untitledOrPathlessMaskAsksForAName()
     QCOMPARE(withoutSize(mask->windowTitle()), QStringLiteral("Bestellung.dbm"));
     QCOMPARE(mask->Path(), chosen);
     QCOMPARE(QDir(m_work->path()).entryList(QDir::Files).size(), 2);
+
+    // A name typed without extension is saved as a mask all the same.
+    dialogs.fileAnswers << QStringList{path(QStringLiteral("Lager"))};
+    clickTool(form.get(), "FileSaveAsItem");
+    QCOMPARE(dialogs.fileDialogs.last().defaultExt, QStringLiteral("dcf"));
+    QCOMPARE(mask->Path(), path(QStringLiteral("Lager.dbm")));
+    QVERIFY(QFile::exists(path(QStringLiteral("Lager.dbm"))));
     QCOMPARE(dialogs.unexpected, 0);
 }
 
