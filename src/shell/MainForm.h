@@ -76,8 +76,8 @@ public:
 
     // Opens a new, empty mask window for the file name; it becomes the active one.
     TMaske *OpenMaskWindow(const QString &fileName);
-    // Selects the entry "WIDTHxHEIGHT" of the resolution list (none when
-    // there is no such entry) and adapts the mask to it.
+    // Selects the entry "WIDTHxHEIGHT" of the resolution list (added when
+    // the list lacks it) and adapts the mask to it.
     void selectResolution(TMaske *mask, const QString &text);
     // The folder that holds the table settings files; ends with a separator.
     QString DatabasePath() const;
@@ -167,6 +167,7 @@ private:
 
     // MainFormModes.cpp
     void createModeCommands();
+    void showResolution(const QString &text);
 
     // MainFormDesign.cpp
     void createDesignTools();

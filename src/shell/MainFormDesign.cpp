@@ -317,11 +317,8 @@ void TMainForm::maskActivated(TMaske *mask, TcxEditStyleController *styleControl
     m_currentStyleController = styleController;
     m_objInsp->setActiveMask(mask);
     UpdateBtn();
-    // The list shows what the mask is designed for (nothing for a size it
-    // does not offer).
-    const QSignalBlocker block(MaskResList);
-    MaskResList->setCurrentIndex(
-        MaskResList->findText(QStringLiteral("%1x%2").arg(mask->document()->ScreenWidth()).arg(mask->document()->ScreenHeight())));
+    // The list shows what the mask is designed for.
+    showResolution(QStringLiteral("%1x%2").arg(mask->document()->ScreenWidth()).arg(mask->document()->ScreenHeight()));
 }
 
 void TMainForm::UpdateComponents()

@@ -150,8 +150,8 @@ void TestMainFormFiles::openDialogOpensEverySelectedFile()
         QCOMPARE(mask->document()->findChild<TPanel *>()->parentWidget(), mask->document());
     }
     QCOMPARE(windows.at(1)->size(), QSize(815, 473));
-    // The last one loaded is active: its resolution is not in the list.
-    QCOMPARE(form->resolutionList()->currentIndex(), -1);
+    // The last one loaded is active: the list shows its resolution, which it does not offer.
+    QCOMPARE(form->resolutionList()->currentText(), QStringLiteral("1000x700"));
     QCOMPARE(tabTexts(form->tabSet()),
              (QStringList{QStringLiteral("c.dbm"), QStringLiteral("a.dbm"), QStringLiteral("b.dbm")}));
     QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(2));
