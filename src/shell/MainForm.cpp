@@ -5,6 +5,7 @@
 #include "IniFile.h"
 #include "Maske.h"
 #include "PaletteIcons.h"
+#include "SetupDialog.h"
 #include "Version.h"
 
 #include <QCloseEvent>
@@ -88,8 +89,13 @@ void TMainForm::FormCreate()
     SaveDialog1.initialDir = Profile::readString(ini, kPrgSection, QStringLiteral("LastSave"), AppPaths::baseFolder());
     OpenDialog.fileName = Profile::readString(ini, kPrgSection, QStringLiteral("LastOpen"), QString());
     OpenDialog.initialDir = FileNames::extractFilePath(OpenDialog.fileName);
-    if (OpenDialog.initialDir.isEmpty())
-        OpenDialog.initialDir = BaseFolder() + QStringLiteral("Masken") + QDir::separator();
+    // The masks live below the installation, or below the program where
+    // there is no installation.
+    if (OpenDialog.initialDir.isEmpty()) {
+        const QString installDir = m_frmSetup->InstallDir();
+        OpenDialog.initialDir = (installDir.isEmpty() ? BaseFolder() : AppPaths::withTrailingSeparator(installDir))
+                                + QStringLiteral("Masken") + QDir::separator();
+    }
 
     m_versionText = Version::text();
     if (m_statusVersion)

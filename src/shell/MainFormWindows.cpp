@@ -221,7 +221,21 @@ void TMainForm::WindowCascadeItemClick()
 
 void TMainForm::WindowTileItemClick()
 {
-    m_mdiArea->tileSubWindows();
+    // One above the other, each as wide as the area; minimised ones stay so.
+    QList<QMdiSubWindow *> windows;
+    for (QMdiSubWindow *w : visibleSubWindows())
+        if (!w->isMinimized())
+            windows << w;
+    const QRect area = m_mdiArea->viewport()->rect();
+    int top = 0;
+    for (int i = 0; i < windows.size(); ++i) {
+        QMdiSubWindow *w = windows.at(i);
+        if (w->isMaximized())
+            w->showNormal();
+        const int bottom = area.height() * (i + 1) / int(windows.size());
+        w->setGeometry(0, top, area.width(), bottom - top);
+        top = bottom;
+    }
 }
 
 void TMainForm::WindowArrangeItemClick()

@@ -158,6 +158,15 @@ void TestMainForm::minimiseAllAndArrangeIcons()
     const QList<QMdiSubWindow *> windows = subWindows(form.get());
     QCOMPARE(windows.size(), 3);
 
+    // "Übereinander": full width, one above the other.
+    action(form.get(), "WindowTileItem")->trigger();
+    const QRect area = form->mdiArea()->viewport()->rect();
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(windows.at(i)->geometry().width(), area.width());
+        QCOMPARE(windows.at(i)->geometry().top(), i == 0 ? 0 : windows.at(i - 1)->geometry().bottom() + 1);
+    }
+    QCOMPARE(windows.at(2)->geometry().bottom(), area.bottom());
+
     action(form.get(), "WindowMinimizeItem")->trigger();
     for (QMdiSubWindow *w : windows)
         QVERIFY(w->isMinimized());

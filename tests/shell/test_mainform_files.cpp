@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <memory>
@@ -11,6 +12,7 @@
 #include "Containers.h"
 #include "FormDesigner.h"
 #include "IniFile.h"
+#include "RegistryStore.h"
 #include "TestSupport.h"
 #include "helper_shell.h"
 
@@ -79,6 +81,18 @@ void TestMainFormFiles::dialogFoldersWithoutSettings()
     QVERIFY(shown.allowMultiSelect);
     QVERIFY(shown.fileMustExist);
     QCOMPARE(form->SaveDialog1.initialDir, AppPaths::baseFolder());
+
+    // An installation keeps its masks in its own folder.
+    {
+        QSettings registry(m_dir.filePath(QStringLiteral("registry.ini")), QSettings::IniFormat);
+        registry.setValue(QStringLiteral("Installdir"), m_work->path());
+        registry.setValue(QStringLiteral("NXProtocol"), 0);
+        registry.setValue(QStringLiteral("NXConnection"), false);
+    }
+    RegistryStore::setFileForTests(m_dir.filePath(QStringLiteral("registry.ini")));
+    auto installed = showMainForm();
+    RegistryStore::setFileForTests(QString());
+    QCOMPARE(installed->OpenDialog.initialDir, AppPaths::withTrailingSeparator(m_work->path()) + QStringLiteral("Masken") + QDir::separator());
 }
 
 void TestMainFormFiles::openedAndSavedFilesSurviveARestart()
