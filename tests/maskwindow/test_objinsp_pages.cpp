@@ -241,6 +241,16 @@ void TestObjInspPages::shapeColours()
     QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("ShapePenColor")), Qt::LeftButton); // cancelled
     QCOMPARE(shape->BrushColor(), Colors::clYellow);
     QCOMPARE(shape->PenColor(), Colors::clNavy);
+
+    // So do a panel's colour and font buttons.
+    auto *panel = f.add<TPanel>(nullptr, QRect(100, 60, 80, 80));
+    f.select({panel});
+    f.dialogs.colorAnswers << std::optional<TColor>(Colors::clYellow);
+    f.dialogs.fontAnswers << QFont(QStringLiteral("Courier"), 13);
+    QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("Button6")), Qt::LeftButton);
+    QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("Button7")), Qt::LeftButton);
+    QCOMPARE(panel->Color(), Colors::clYellow);
+    QCOMPARE(panel->Font().Size, 13);
     QCOMPARE(f.dialogs.unexpected, 0);
 }
 
@@ -302,9 +312,15 @@ void TestObjInspPages::pagerPageAndNewPages()
     QCOMPARE(f.editor<QComboBox>(QStringLiteral("CBOfficePagerStyle"))->currentIndex(), f.mask->document()->OfficePagerStyle());
     QVERIFY(!f.mask->Modified());
 
-    // The style is the mask's.
+    // The style is the mask's, and every page control shows it; the tabs
+    // take their own font.
+    const QImage before = pager->tabBar()->grab().toImage();
     choose(f.editor<QComboBox>(QStringLiteral("CBOfficePagerStyle")), 4);
     QCOMPARE(f.mask->document()->OfficePagerStyle(), 4);
+    QVERIFY(pager->tabBar()->grab().toImage() != before);
+    f.dialogs.fontAnswers << QFont(QStringLiteral("Courier"), 14);
+    QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("Button4")), Qt::LeftButton);
+    QCOMPARE(pager->tabBar()->font().pointSize(), 14);
 
     // An empty caption gives the standard one.
     QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("NewPageBTN")), Qt::LeftButton);
