@@ -22,6 +22,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QStackedWidget>
 #include <QSpinBox>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -285,6 +287,13 @@ void TestObjInspPages::lookupPickListFlag()
     QVERIFY(!typ->isEnabled());
     retype(f.editor<QLineEdit>(QStringLiteral("LUNameCaption")), QStringLiteral("Kunde"));
     QCOMPARE(lookup->Tag(), -1);
+
+    // The page fits its window, and the longest letter case shows whole.
+    f.insp.show();
+    auto *page = qobject_cast<QScrollArea *>(f.insp.Notebook1()->currentWidget());
+    QVERIFY(page->widget()->width() <= page->viewport()->width());
+    auto *charCase = f.editor<QComboBox>(QStringLiteral("LUCharCase"));
+    QVERIFY(charCase->width() > charCase->fontMetrics().horizontalAdvance(QStringLiteral("Groß/Kleinschreibung")) + 20);
 }
 
 void TestObjInspPages::imagePage()
