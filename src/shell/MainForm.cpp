@@ -11,6 +11,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -29,6 +30,9 @@ QFont mainFont()
                      ? QFont(QStringLiteral("Tahoma"))
                      : QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     font.setPointSize(9);
+    // A generic name ("Sans Serif") would reach the mask files, where it
+    // names no font; the family it stands for is what the user sees.
+    font.setFamily(QFontInfo(font).family());
     return font;
 }
 

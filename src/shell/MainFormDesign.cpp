@@ -5,6 +5,7 @@
 #include <QActionGroup>
 #include <QComboBox>
 #include <QFontComboBox>
+#include <QFontInfo>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QSpinBox>
@@ -164,7 +165,10 @@ void TMainForm::WriteFontStates(QWidget *control)
     if (!c || !hasToolFont(control))
         return;
     TFont font = c->Font();
-    font.Name = dxBarFontNameCombo1->currentFont().family();
+    // The family the box shows, which for a generic name ("Sans Serif") is
+    // the one it stands for: the file keeps what the user saw.
+    font.Name = dxBarFontNameCombo1->currentText().isEmpty() ? QFontInfo(dxBarFontNameCombo1->currentFont()).family()
+                                                             : dxBarFontNameCombo1->currentText();
     if (dxBarColorCombo1->currentIndex() >= 0)
         font.Color = TColor(dxBarColorCombo1->currentData().toInt());
     bool ok = false;

@@ -63,6 +63,9 @@ void TestDesigning::paletteClicksPlaceNamedControls()
     for (int i = 0; i < 3; ++i)
         placeWith(form.get(), "dxBarBtnLabel", surface, QPoint(16, 16 + 24 * i));
     QVERIFY(Components::findComponent(mask->document(), QStringLiteral("Label3")));
+    // The font the label gets, and its file keeps, is the one the font box shows.
+    QCOMPARE(TControl::from(mask->FormDesigner2()->currentControl())->Font().Name,
+             form->findChild<QComboBox *>(QStringLiteral("dxBarFontNameCombo1"))->currentText());
     QObject *label2 = Components::findComponent(mask->document(), QStringLiteral("Label2"));
     QVERIFY(label2);
     // The arrow is down again and the inspector shows the new label.
