@@ -182,6 +182,7 @@ private:
     // MainFormWindows.cpp
     void createClientArea();
     void watchMaskWindow(TMaske *mask);
+    void showWhole(TMaske *mask);
     void syncWindowLists();
     void activateWindowAt(int index);
     void updateStatusText();

@@ -72,9 +72,25 @@ TMaske *TMainForm::OpenMaskWindow(const QString &fileName)
     watchMaskWindow(mask);
     mask->show();
     m_mdiArea->setActiveSubWindow(mask);
+    showWhole(mask);
     syncWindowLists();
     UpdateMenuItems();
     return mask;
+}
+
+void TMainForm::showWhole(TMaske *mask)
+{
+    // A window that starts partly outside the area hides its own frame and
+    // scroll bars; it is moved in, and shrunk where the area is smaller (the
+    // mask then scrolls). The view starts at the mask's origin.
+    const QRect area = m_mdiArea->viewport()->rect();
+    QRect r = mask->geometry();
+    r.setSize(r.size().boundedTo(area.size()));
+    r.moveLeft(qBound(0, r.left(), area.width() - r.width()));
+    r.moveTop(qBound(0, r.top(), area.height() - r.height()));
+    if (r != mask->geometry())
+        mask->setGeometry(r);
+    mask->scrollToOrigin();
 }
 
 void TMainForm::watchMaskWindow(TMaske *mask)

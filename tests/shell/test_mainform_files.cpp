@@ -162,6 +162,8 @@ void TestMainFormFiles::openDialogOpensEverySelectedFile()
         QVERIFY(!mask->Modified());
         QVERIFY(mask->FormDesigner2()->Active());
         QCOMPARE(mask->document()->findChild<TPanel *>()->parentWidget(), mask->document());
+        // Whole in view, whatever size its resolution asks for.
+        QVERIFY(form->mdiArea()->viewport()->rect().contains(mask->geometry()));
     }
     QCOMPARE(windows.at(1)->size(), QSize(815, 473));
     // The last one loaded is active: the list shows its resolution, which it does not offer.
