@@ -117,6 +117,9 @@ TModalResult QtUserDialogs::messageDlg(QWidget *parent, const QString &text, TMs
 bool QtUserDialogs::fileDialog(QWidget *parent, TFileDialog &dialog)
 {
     QFileDialog fd(parent, dialog.title);
+    // Qt's own dialogs speak the program's language (Qt's translations);
+    // a desktop's native ones would speak the desktop's.
+    fd.setOption(QFileDialog::DontUseNativeDialog);
     fd.setAcceptMode(dialog.kind == TFileDialog::Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     if (dialog.kind == TFileDialog::Open)
         fd.setFileMode(dialog.allowMultiSelect ? QFileDialog::ExistingFiles
@@ -156,7 +159,8 @@ bool QtUserDialogs::fileDialog(QWidget *parent, TFileDialog &dialog)
 
 std::optional<TColor> QtUserDialogs::colorDialog(QWidget *parent, TColor initial)
 {
-    const QColor chosen = QColorDialog::getColor(initial.toQColor(), parent);
+    const QColor chosen =
+        QColorDialog::getColor(initial.toQColor(), parent, QString(), QColorDialog::DontUseNativeDialog);
     if (!chosen.isValid())
         return std::nullopt;
     return TColor::fromQColor(chosen);
@@ -165,7 +169,7 @@ std::optional<TColor> QtUserDialogs::colorDialog(QWidget *parent, TColor initial
 std::optional<QFont> QtUserDialogs::fontDialog(QWidget *parent, const QFont &initial)
 {
     bool ok = false;
-    const QFont font = QFontDialog::getFont(&ok, initial, parent);
+    const QFont font = QFontDialog::getFont(&ok, initial, parent, QString(), QFontDialog::DontUseNativeDialog);
     if (!ok)
         return std::nullopt;
     return font;
@@ -173,7 +177,8 @@ std::optional<QFont> QtUserDialogs::fontDialog(QWidget *parent, const QFont &ini
 
 QString QtUserDialogs::directoryDialog(QWidget *parent, const QString &caption, const QString &initial)
 {
-    return QFileDialog::getExistingDirectory(parent, caption, initial);
+    return QFileDialog::getExistingDirectory(parent, caption, initial,
+                                             QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
 }
 
 int QtUserDialogs::execDialog(QDialog *dialog)
