@@ -14,6 +14,7 @@ TMaskDocument::TMaskDocument(QWidget *parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("Maske"));
+    setProperty(TAdvOfficePager::kStyleProperty, m_officePagerStyle);
     setAutoFillBackground(true);
     QPalette pal = palette();
     pal.setColor(QPalette::Window, Colors::clBtnFace.toQColor(pal));
@@ -47,4 +48,12 @@ TAdvOfficePage *TMaskDocument::NewOPage(const QString &caption)
     AutoName(page, this);
     page->setCaption(caption);
     return page;
+}
+
+void TMaskDocument::setOfficePagerStyle(int style)
+{
+    m_officePagerStyle = style;
+    setProperty(TAdvOfficePager::kStyleProperty, style);
+    for (TAdvOfficePager *pager : findChildren<TAdvOfficePager *>())
+        pager->setOfficeStyle(style);
 }

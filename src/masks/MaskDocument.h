@@ -48,7 +48,8 @@ public:
     // Blau" = 0).
     TcxEditStyleController *cxStyleController() const { return m_cxStyleController; }
     int OfficePagerStyle() const { return m_officePagerStyle; }
-    void setOfficePagerStyle(int style) { m_officePagerStyle = style; }
+    // Shown at once by every page control on the mask, also those added later.
+    void setOfficePagerStyle(int style);
 
     // Gives every edit control of the mask without a style the mask's one
     // (pasted controls come without).

@@ -150,6 +150,7 @@ const QVector<InspectorPage> &TObjInsp::pageTable()
             combo("Layout:", "LabelLayout", "Layout", {"Oben", "Zentrum", "Unten"}),
             combo("Ausrichtung:", "LabelAlignment", "Alignment", labelAlignment),
             sizing(),
+            fontButton("Schriftart…", "Button1", "Font"),
         }, {}, {}},
         F{"TDBLabel", &TObjInsp::DBLabelFieldChange, {
             line("Feldname:", "DBLabelField", "DataField,Caption", RowFlag::Trimmed),
@@ -161,6 +162,7 @@ const QVector<InspectorPage> &TObjInsp::pageTable()
             check("Zeilenumbruch", "DBLabelWordWrap", "WordWrap,!AutoSize"),
             check("Im Browser editierbar", "DBLabel_BrowserEdit", "BrowserEdit"),
             line("Feldtitel im Browser:", "DBLabelCaption", "HelpKeyword"),
+            fontButton("Schriftart…", "Button2", "Font"),
         }, {}, {}},
         F{"TcxTextEdit", &TObjInsp::EditFieldNameChange, {
             line("Feldname:", "EditFieldName", "Text", RowFlag::Trimmed),
@@ -278,10 +280,12 @@ const QVector<InspectorPage> &TObjInsp::pageTable()
                 };
                 return r;
             }(),
+            fontButton("Schriftart Tabs", "Button4", "Font"),
             custom([](TObjInsp &insp) { return insp.buildNewPageBox(); }),
         }, {}, {}},
         F{"TAdvOfficePage", &TObjInsp::EditOfficePageChange, {
             line("Seitentitel:", "EditOfficePage", "Caption"),
+            colorButton("Farbe:", "Button5", "Color"),
         }, {}, {}},
         F{"TDBRadioGroup", &TObjInsp::EditRGChange, {
             line("Feldname:", "EditRGDB", "DataField"),
@@ -291,6 +295,7 @@ const QVector<InspectorPage> &TObjInsp::pageTable()
             spin("Feldlänge:", "EditSizeRG", "Tag", 0, 9999),
             check("Pflichtfeld", "EditRGPflicht", "TabStop"),
             line("Feldtitel im Browser:", "EditRBKeyword", "HelpKeyword"),
+            fontButton("Schriftart…", "Button3", "Font"),
         }, {}, {}},
         F{"TPanel", &TObjInsp::PanelAlignClick, {
             combo("Ausrichtung:", "PanelAlign", "Align", alignItems()),
@@ -300,6 +305,8 @@ const QVector<InspectorPage> &TObjInsp::pageTable()
             spin("Rahmenbreite:", "Panel_SpinEdit", "BevelWidth", 1, 20),
             combo("Rahmen:", "Panel_BorderStyle", "BorderStyle", {"kein", "Simpel"}),
             check("3D Style", "Panel_Ctrl", "Ctl3D"),
+            colorButton("Farbe:", "Button6", "Color"),
+            fontButton("Schriftart…", "Button7", "Font"),
         }, {}, {}},
         // The tree list keeps its table in the state-index field and its
         // master field in HelpKeyword.

@@ -37,18 +37,39 @@ QStringList texts()
     return list;
 }
 
+namespace {
+void applySizes(TMaske *mask, const QString &text, int designHeight, int designWidth, int windowHeight,
+                int windowWidth)
+{
+    mask->setDesignHeight(designHeight);
+    mask->setDesignWidth(designWidth);
+    mask->resize(windowWidth, windowHeight);
+    const QStringList parts = text.split(QLatin1Char('x'));
+    mask->document()->setScreenWidth(parts.at(0).toInt());
+    mask->document()->setScreenHeight(parts.at(1).toInt());
+}
+} // namespace
+
 void apply(TMaske *mask, int index, const QSize &mainWindowSize)
 {
     mask->setScrollRanges(mainWindowSize.width(), mainWindowSize.height() - kMainWindowChrome);
     if (index < 0 || index >= int(std::size(kResolutions)))
         return;
     const Resolution &r = kResolutions[index];
-    mask->setDesignHeight(r.designHeight);
-    mask->setDesignWidth(r.designWidth);
-    mask->resize(r.windowWidth, r.windowHeight);
-    const QStringList parts = QString::fromLatin1(r.text).split(QLatin1Char('x'));
-    mask->document()->setScreenWidth(parts.at(0).toInt());
-    mask->document()->setScreenHeight(parts.at(1).toInt());
+    applySizes(mask, QString::fromLatin1(r.text), r.designHeight, r.designWidth, r.windowHeight, r.windowWidth);
+}
+
+void apply(TMaske *mask, const QString &text, const QSize &mainWindowSize)
+{
+    const int index = int(texts().indexOf(text));
+    apply(mask, index, mainWindowSize);
+    const QStringList parts = text.split(QLatin1Char('x'));
+    int width = 0;
+    int height = 0;
+    if (index >= 0 || parts.size() != 2 || (width = parts.at(0).toInt()) <= 0
+        || (height = parts.at(1).toInt()) <= kMainWindowChrome)
+        return;
+    applySizes(mask, text, height - kMainWindowChrome, width, height - kMainWindowChrome, width + 15);
 }
 
 } // namespace MaskResolutions

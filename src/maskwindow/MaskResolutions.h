@@ -16,5 +16,8 @@ QStringList texts();
 // mask file keeps the entry as its text reads. An index outside the list
 // only sets the scroll range.
 void apply(TMaske *mask, int index, const QSize &mainWindowSize);
+// The same for an entry by its text; a "WIDTHxHEIGHT" the list lacks is
+// applied by the rule behind the list's numbers.
+void apply(TMaske *mask, const QString &text, const QSize &mainWindowSize);
 
 } // namespace MaskResolutions

@@ -118,7 +118,11 @@ QWidget *TMaske::placeControl(TPaletteCode code, QWidget *container, const QPoin
         c->setFont(last);
 
     switch (code) {
+    case TPaletteCode::Lookup:
+        static_cast<TcxDBPopupEdit *>(w)->setAutoSelect(false);
+        break;
     case TPaletteCode::Combo:
+        static_cast<TcxComboBox *>(w)->setAutoSelect(false);
         c->setParentFont(false);
         // The mask's own font, not the combo box's, takes the last tool bar
         // font; kept so on purpose.

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -116,6 +117,15 @@ TObjInsp::TObjInsp(QWidget *parent)
 
     buildPages();
     Q_ASSERT(m_notebook->count() == pageCaptions().size());
+    // Wide enough for the widest page: no page is clipped at the right edge.
+    int widest = 0;
+    for (int i = 0; i < m_notebook->count(); ++i)
+        if (auto *page = qobject_cast<QScrollArea *>(m_notebook->widget(i)))
+            widest = qMax(widest, page->widget()->minimumSizeHint().width());
+    const int chrome = layout->contentsMargins().left() + layout->contentsMargins().right()
+                       + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
+    setMinimumWidth(qMax(minimumWidth(), widest + chrome));
+    resize(qMax(width(), minimumWidth()), height());
 
     m_notebook->setCurrentIndex(0);
     m_header->setText(QString());

@@ -247,9 +247,13 @@ void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFor
     case EditorKind::Combo: {
         auto *combo = new QComboBox;
         combo->addItems(row.items);
-        // Long item texts must not widen the narrow tool window.
+        // Choices as long as "Groß/Kleinschreibung" show whole; longer ones
+        // must not widen the narrow tool window further.
+        qsizetype longest = 6;
+        for (const QString &item : row.items)
+            longest = qMax(longest, item.size());
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        combo->setMinimumContentsLength(6);
+        combo->setMinimumContentsLength(int(qMin<qsizetype>(longest, 20)));
         connect(combo, qOverload<int>(&QComboBox::currentIndexChanged), this, change);
         editor = combo;
         break;

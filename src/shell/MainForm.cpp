@@ -5,11 +5,13 @@
 #include "IniFile.h"
 #include "Maske.h"
 #include "PaletteIcons.h"
+#include "SetupDialog.h"
 #include "Version.h"
 
 #include <QCloseEvent>
 #include <QDir>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -28,6 +30,9 @@ QFont mainFont()
                      ? QFont(QStringLiteral("Tahoma"))
                      : QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     font.setPointSize(9);
+    // A generic name ("Sans Serif") would reach the mask files, where it
+    // names no font; the family it stands for is what the user sees.
+    font.setFamily(QFontInfo(font).family());
     return font;
 }
 
@@ -88,8 +93,13 @@ void TMainForm::FormCreate()
     SaveDialog1.initialDir = Profile::readString(ini, kPrgSection, QStringLiteral("LastSave"), AppPaths::baseFolder());
     OpenDialog.fileName = Profile::readString(ini, kPrgSection, QStringLiteral("LastOpen"), QString());
     OpenDialog.initialDir = FileNames::extractFilePath(OpenDialog.fileName);
-    if (OpenDialog.initialDir.isEmpty())
-        OpenDialog.initialDir = BaseFolder() + QStringLiteral("Masken") + QDir::separator();
+    // The masks live below the installation, or below the program where
+    // there is no installation.
+    if (OpenDialog.initialDir.isEmpty()) {
+        const QString installDir = m_frmSetup->InstallDir();
+        OpenDialog.initialDir = (installDir.isEmpty() ? BaseFolder() : AppPaths::withTrailingSeparator(installDir))
+                                + QStringLiteral("Masken") + QDir::separator();
+    }
 
     m_versionText = Version::text();
     if (m_statusVersion)
@@ -107,7 +117,21 @@ void TMainForm::FormShow()
 
 void TMainForm::FormClose(QCloseEvent *event)
 {
-    // The mask windows go first; one that refuses to close keeps the program running.
+    // Every changed mask is asked before any closes, so that "Abbrechen" on
+    // one keeps them all. The asked mask is the active one: a "Ja" saves it.
+    const QList<TMaske *> masks = MDIChildren();
+    for (TMaske *mask : masks) {
+        if (!mask->Modified())
+            continue;
+        m_mdiArea->setActiveSubWindow(mask);
+        if (!mask->FormCloseQuery()) {
+            event->ignore();
+            return;
+        }
+    }
+    // All agreed: closing them asks no second time.
+    for (TMaske *mask : masks)
+        mask->setModified(false);
     m_mdiArea->closeAllSubWindows();
     if (!visibleSubWindows().isEmpty()) {
         event->ignore();

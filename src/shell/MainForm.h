@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <functional>
+
 #include "EditStyle.h"
 #include "MaskHost.h"
 #include "MaskLoader.h"
@@ -74,8 +76,8 @@ public:
 
     // Opens a new, empty mask window for the file name; it becomes the active one.
     TMaske *OpenMaskWindow(const QString &fileName);
-    // Selects the entry "WIDTHxHEIGHT" of the resolution list (none when
-    // there is no such entry) and adapts the mask to it.
+    // Selects the entry "WIDTHxHEIGHT" of the resolution list (added when
+    // the list lacks it) and adapts the mask to it.
     void selectResolution(TMaske *mask, const QString &text);
     // The folder that holds the table settings files; ends with a separator.
     QString DatabasePath() const;
@@ -168,6 +170,7 @@ private:
 
     // MainFormModes.cpp
     void createModeCommands();
+    void showResolution(const QString &text);
 
     // MainFormDesign.cpp
     void createDesignTools();
@@ -175,10 +178,14 @@ private:
     void tabOrderSpinChange();
     void fontToolChange();
     TFormDesigner *activeDesigner() const;
+    // Runs an engine command; an engine error becomes an error message and
+    // the command ends there. Returns false when the engine refused.
+    bool runEngineCommand(const std::function<void()> &command);
 
     // MainFormWindows.cpp
     void createClientArea();
     void watchMaskWindow(TMaske *mask);
+    void showWhole(TMaske *mask);
     void syncWindowLists();
     void activateWindowAt(int index);
     void updateStatusText();

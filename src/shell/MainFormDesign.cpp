@@ -5,6 +5,7 @@
 #include <QActionGroup>
 #include <QComboBox>
 #include <QFontComboBox>
+#include <QFontInfo>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QSpinBox>
@@ -32,6 +33,19 @@ TFormDesigner *TMainForm::activeDesigner() const
 {
     TMaske *mask = activeMask();
     return mask ? mask->FormDesigner2() : nullptr;
+}
+
+bool TMainForm::runEngineCommand(const std::function<void()> &command)
+{
+    // The one place where the engine's errors meet the user: a bad clipboard
+    // or layout must not unwind through the event loop.
+    try {
+        command();
+        return true;
+    } catch (const EFormDesigner &error) {
+        UserDialogs::instance().messageDlg(this, error.message(), mtError, mbOK);
+        return false;
+    }
 }
 
 void TMainForm::createDesignTools()
@@ -151,7 +165,10 @@ void TMainForm::WriteFontStates(QWidget *control)
     if (!c || !hasToolFont(control))
         return;
     TFont font = c->Font();
-    font.Name = dxBarFontNameCombo1->currentFont().family();
+    // The family the box shows, which for a generic name ("Sans Serif") is
+    // the one it stands for: the file keeps what the user saw.
+    font.Name = dxBarFontNameCombo1->currentText().isEmpty() ? QFontInfo(dxBarFontNameCombo1->currentFont()).family()
+                                                             : dxBarFontNameCombo1->currentText();
     if (dxBarColorCombo1->currentIndex() >= 0)
         font.Color = TColor(dxBarColorCombo1->currentData().toInt());
     bool ok = false;
@@ -304,11 +321,8 @@ void TMainForm::maskActivated(TMaske *mask, TcxEditStyleController *styleControl
     m_currentStyleController = styleController;
     m_objInsp->setActiveMask(mask);
     UpdateBtn();
-    // The list shows what the mask is designed for (nothing for a size it
-    // does not offer).
-    const QSignalBlocker block(MaskResList);
-    MaskResList->setCurrentIndex(
-        MaskResList->findText(QStringLiteral("%1x%2").arg(mask->document()->ScreenWidth()).arg(mask->document()->ScreenHeight())));
+    // The list shows what the mask is designed for.
+    showResolution(QStringLiteral("%1x%2").arg(mask->document()->ScreenWidth()).arg(mask->document()->ScreenHeight()));
 }
 
 void TMainForm::UpdateComponents()
@@ -337,7 +351,7 @@ void TMainForm::maskClosed(TMaske *mask)
 void TMainForm::CutItemClick()
 {
     if (TFormDesigner *designer = activeDesigner()) {
-        designer->CutToClipboard();
+        runEngineCommand([designer] { designer->CutToClipboard(); });
         UpdateComponents();
         UpdateBtn();
     }
@@ -346,7 +360,7 @@ void TMainForm::CutItemClick()
 void TMainForm::CopyItemClick()
 {
     if (TFormDesigner *designer = activeDesigner())
-        designer->CopyToClipboard();
+        runEngineCommand([designer] { designer->CopyToClipboard(); });
     UpdateBtn();
 }
 
@@ -355,7 +369,7 @@ void TMainForm::PasteItemClick()
     // The inspector's list is not rebuilt here; the next placement, cut,
     // delete or activation does it.
     if (TFormDesigner *designer = activeDesigner())
-        designer->PasteFromClipboard();
+        runEngineCommand([designer] { designer->PasteFromClipboard(); });
     if (TMaske *mask = activeMask())
         mask->document()->adoptEditStyle();
     UpdateBtn();
@@ -406,7 +420,7 @@ void TMainForm::PopItemsClick(int tag)
     QWidget *current = designer->currentControl();
     switch (tag) {
     case 1:
-        designer->AlignToGrid();
+        runEngineCommand([designer] { designer->AlignToGrid(); });
         break;
     case 2:
         // Within its own layer: the grid stays below, the handles above.
@@ -416,10 +430,10 @@ void TMainForm::PopItemsClick(int tag)
         ControlLayout::sendToBack(current);
         break;
     case 4:
-        designer->AlignDialog();
+        runEngineCommand([designer] { designer->AlignDialog(); });
         break;
     case 5:
-        runSizeDialog(this, designer);
+        runEngineCommand([this, designer] { runSizeDialog(this, designer); });
         break;
     case 6:
         break; // deliberately without effect in this menu
@@ -434,7 +448,14 @@ void TMainForm::PopItemsClick(int tag)
 
 void TMainForm::SettingsItemClick()
 {
-    UserDialogs::instance().execDialog(m_frmSetup);
+    // Confirmed settings show at once on every open mask, not only on the
+    // next activation.
+    if (UserDialogs::instance().execDialog(m_frmSetup) != QDialog::Accepted)
+        return;
+    for (TMaske *mask : MDIChildren()) {
+        m_frmSetup->applyTo(mask->FormDesigner2());
+        mask->FormDesigner2()->UpdateGrabs();
+    }
 }
 
 void TMainForm::StyleItemClick()

@@ -48,6 +48,7 @@ TMaske *TMainForm::LoadMask(const QString &fileName)
     UpdateComponents();
     mask->setModified(false);
     mask->FormDesigner2()->setActive(true);
+    showWhole(mask);
     return mask;
 }
 

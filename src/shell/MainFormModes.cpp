@@ -26,8 +26,8 @@ void TMainForm::createModeCommands()
     connect(EditModeItem, &QAction::triggered, this, &TMainForm::EditMode1Click);
     connect(RunModeItem, &QAction::triggered, this, &TMainForm::RunMode1Click);
     connect(dxBarNormal, &QAction::triggered, this, &TMainForm::dxBarNormalClick);
-    // A resolution the user picks is a change of the mask.
-    connect(MaskResList, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] {
+    // A resolution the user picks is a change of the mask, also the one shown.
+    connect(MaskResList, &QComboBox::activated, this, [this] {
         dxBar1024x768Click();
         if (TMaske *mask = activeMask())
             mask->setModified(true);
@@ -55,7 +55,7 @@ void TMainForm::RunMode1Click()
 void TMainForm::dxBar1024x768Click()
 {
     if (TMaske *mask = activeMask())
-        MaskResolutions::apply(mask, MaskResList->currentIndex(), size());
+        MaskResolutions::apply(mask, MaskResList->currentText(), size());
 }
 
 void TMainForm::dxBarNormalClick()
@@ -73,11 +73,20 @@ void TMainForm::selectResolution(TMaske *mask, const QString &text)
 {
     if (mask != activeMask())
         return;
-    {
-        const QSignalBlocker block(MaskResList);
-        MaskResList->setCurrentIndex(MaskResList->findText(text));
-    }
+    showResolution(text);
     dxBar1024x768Click();
+}
+
+void TMainForm::showResolution(const QString &text)
+{
+    // A size the list does not offer joins it as long as its mask is active.
+    const QSignalBlocker block(MaskResList);
+    const int fixed = int(MaskResolutions::texts().size());
+    while (MaskResList->count() > fixed)
+        MaskResList->removeItem(MaskResList->count() - 1);
+    if (MaskResList->findText(text) < 0)
+        MaskResList->addItem(text);
+    MaskResList->setCurrentIndex(MaskResList->findText(text));
 }
 
 QString TMainForm::DatabasePath() const

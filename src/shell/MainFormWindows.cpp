@@ -72,9 +72,25 @@ TMaske *TMainForm::OpenMaskWindow(const QString &fileName)
     watchMaskWindow(mask);
     mask->show();
     m_mdiArea->setActiveSubWindow(mask);
+    showWhole(mask);
     syncWindowLists();
     UpdateMenuItems();
     return mask;
+}
+
+void TMainForm::showWhole(TMaske *mask)
+{
+    // A window that starts partly outside the area hides its own frame and
+    // scroll bars; it is moved in, and shrunk where the area is smaller (the
+    // mask then scrolls). The view starts at the mask's origin.
+    const QRect area = m_mdiArea->viewport()->rect();
+    QRect r = mask->geometry();
+    r.setSize(r.size().boundedTo(area.size()));
+    r.moveLeft(qBound(0, r.left(), area.width() - r.width()));
+    r.moveTop(qBound(0, r.top(), area.height() - r.height()));
+    if (r != mask->geometry())
+        mask->setGeometry(r);
+    mask->scrollToOrigin();
 }
 
 void TMainForm::watchMaskWindow(TMaske *mask)
@@ -221,7 +237,21 @@ void TMainForm::WindowCascadeItemClick()
 
 void TMainForm::WindowTileItemClick()
 {
-    m_mdiArea->tileSubWindows();
+    // One above the other, each as wide as the area; minimised ones stay so.
+    QList<QMdiSubWindow *> windows;
+    for (QMdiSubWindow *w : visibleSubWindows())
+        if (!w->isMinimized())
+            windows << w;
+    const QRect area = m_mdiArea->viewport()->rect();
+    int top = 0;
+    for (int i = 0; i < windows.size(); ++i) {
+        QMdiSubWindow *w = windows.at(i);
+        if (w->isMaximized())
+            w->showNormal();
+        const int bottom = area.height() * (i + 1) / int(windows.size());
+        w->setGeometry(0, top, area.width(), bottom - top);
+        top = bottom;
+    }
 }
 
 void TMainForm::WindowArrangeItemClick()

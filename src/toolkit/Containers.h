@@ -143,6 +143,14 @@ public:
     // Adds the page at the end (making the pager its parent).
     void addPage(TAdvOfficePage *page);
 
+    // The look of tabs and frame: 0 "Office2003 Blau" ... 9 "Office2007
+    // Silber"; 8 ("Custom") and unknown values show the platform's own look.
+    // A form sets it for all its page controls at once: a pager takes the
+    // value of kStyleProperty from its nearest ancestor that carries it.
+    int OfficeStyle() const { return m_officeStyle; }
+    void setOfficeStyle(int style);
+    static const char *const kStyleProperty;
+
     QTabBar *tabBar() const { return m_tabBar; }
     QRect alignClientRect() const override { return pageRect(); }
     QRect pageRect() const;
@@ -164,8 +172,11 @@ private:
     void pageCaptionChanged(TAdvOfficePage *page);
     void layoutPages();
     void syncTabs();
+    void parentWidgetChanged(QWidget *oldParent) override;
+    void adoptInheritedStyle();
 
     QTabBar *m_tabBar;
+    int m_officeStyle = -1;
     QList<TAdvOfficePage *> m_pages;
     int m_activeIndex = -1;
     TTabPosition m_tabPosition = tpTop;

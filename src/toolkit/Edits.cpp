@@ -140,6 +140,7 @@ QVector<TPropInfo> TcxTextEdit::textEditProperties()
     namespace P = CommonProps;
     return {
         P::Left(), P::Top(), P::Width(), P::Height(), P::Align(),
+        prop("AutoSelect", &TcxTextEdit::AutoSelect, &TcxTextEdit::setAutoSelect, {}, QVariant(true)),
         prop("CharCase", &TcxTextEdit::CharCase, &TcxTextEdit::setCharCase, enumNames<TEditCharCase>(),
              QVariant(int(ecNormal))),
         P::Color(), P::Font(), P::ParentFont(),
@@ -185,6 +186,13 @@ void TcxTextEdit::setCharCase(TEditCharCase charCase)
     setText(text());
 }
 
+void TcxTextEdit::focusInEvent(QFocusEvent *event)
+{
+    TInputControlT<QLineEdit>::focusInEvent(event);
+    if (!m_autoSelect)
+        deselect();
+}
+
 // --- TcxComboBox -----------------------------------------------------------
 
 TcxComboBox::TcxComboBox(QWidget *parent)
@@ -207,6 +215,7 @@ const TClassInfo &TcxComboBox::staticClassInfo()
         QStringLiteral("TcxComboBox"),
         {
             P::Left(), P::Top(), P::Width(), P::Height(), P::Align(),
+            prop("AutoSelect", &TcxComboBox::AutoSelect, &TcxComboBox::setAutoSelect, {}, QVariant(true)),
             prop("CharCase", &TcxComboBox::CharCase, &TcxComboBox::setCharCase, enumNames<TEditCharCase>(),
                  QVariant(int(ecNormal))),
             P::Color(), P::Font(), P::ParentFont(),
@@ -313,6 +322,13 @@ void TcxComboBox::keyPressEvent(QKeyEvent *event)
         }
     }
     QComboBox::keyPressEvent(event);
+}
+
+void TcxComboBox::focusInEvent(QFocusEvent *event)
+{
+    TInputControlT<QComboBox>::focusInEvent(event);
+    if (!m_autoSelect)
+        lineEdit()->deselect();
 }
 
 void TcxComboBox::wheelEvent(QWheelEvent *event)

@@ -92,12 +92,18 @@ public:
     void setReadOnly(bool readOnly) { QLineEdit::setReadOnly(readOnly); }
     TEditCharCase CharCase() const;
     void setCharCase(TEditCharCase charCase);
+    // Entering with the keyboard selects the whole text; off, the text stays
+    // unselected and typing adds to it.
+    bool AutoSelect() const { return m_autoSelect; }
+    void setAutoSelect(bool autoSelect) { m_autoSelect = autoSelect; }
 
 protected:
     static QVector<TPropInfo> textEditProperties();
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     TTextInputValidator *m_input;
+    bool m_autoSelect = true;
 };
 
 // An editable combo box; Items are the values offered in its list.
@@ -124,16 +130,21 @@ public:
     void setReadOnly(bool readOnly);
     TEditCharCase CharCase() const;
     void setCharCase(TEditCharCase charCase);
+    // As the text edit's.
+    bool AutoSelect() const { return m_autoSelect; }
+    void setAutoSelect(bool autoSelect) { m_autoSelect = autoSelect; }
 
     void showPopup() override;
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     TTextInputValidator *m_input;
     bool m_readOnly = false;
+    bool m_autoSelect = true;
 };
 
 // A lookup field: a text edit with a drop-down button at its right edge.

@@ -248,13 +248,14 @@ void TPictureControl::paintEvent(QPaintEvent *)
     }
     if (!isDesigning())
         return;
-    // No picture: show the area and a small landscape symbol.
+    // No picture: show the area and a small landscape symbol in its corner,
+    // clear of a note such as "Kein Bild vorhanden" placed beneath it.
     p.setPen(QPen(palette().color(QPalette::Dark), 1, Qt::DashLine));
     p.drawRect(rect().adjusted(0, 0, -1, -1));
     const int s = std::min({width(), height(), 32}) - 8;
     if (s < 8)
         return;
-    const QRect icon(rect().center().x() - s / 2, rect().center().y() - s / 2, s, s * 3 / 4);
+    const QRect icon(4, 4, s, s * 3 / 4);
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(palette().color(QPalette::Dark), 1));
     p.setBrush(Qt::NoBrush);

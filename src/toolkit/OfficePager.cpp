@@ -1,10 +1,43 @@
 #include <QEvent>
 #include <QPainter>
 
+#include <iterator>
+
 #include "CommonProps.h"
 #include "Containers.h"
 
 using PropBuilder::prop;
+
+namespace {
+// Tab, chosen tab, border and tab text of each office style.
+struct OfficeStyleColors
+{
+    const char *tab;
+    const char *chosen;
+    const char *border;
+    const char *text;
+};
+const OfficeStyleColors kOfficeStyles[] = {
+    {"#c3daf9", "#fbfdff", "#3b619c", "#15428b"}, // Office2003 Blau
+    {"#e2e2ea", "#fbfbfd", "#7c7c94", "#3f3f52"}, // Office2003 Silber
+    {"#dfe6c2", "#fbfcf6", "#60804d", "#3d5728"}, // Office2003 Olive
+    {"#d4d0c8", "#fbfbfa", "#808080", "#000000"}, // Office2003 Klassik
+    {"#d7e6f9", "#ffffff", "#8db2e3", "#15428b"}, // Office2007 Luna
+    {"#5a5e66", "#e6e9ed", "#2f3236", "#ffffff"}, // Office2007 Obsidian
+    {"#ecebe6", "#ffffff", "#919b9c", "#000000"}, // WindowsXP
+    {"#e6e4d6", "#fcfcfe", "#aca899", "#000000"}, // Whidbey
+    {nullptr, nullptr, nullptr, nullptr},          // Custom
+    {"#e3e7ec", "#ffffff", "#a5acb5", "#4c535c"}, // Office2007 Silber
+};
+
+const OfficeStyleColors *officeStyle(int style)
+{
+    return style >= 0 && style < int(std::size(kOfficeStyles)) && kOfficeStyles[style].tab ? &kOfficeStyles[style]
+                                                                                          : nullptr;
+}
+} // namespace
+
+const char *const TAdvOfficePager::kStyleProperty = "officePagerStyle";
 
 // ---- TAdvOfficePager ----
 
@@ -22,6 +55,38 @@ TAdvOfficePager::TAdvOfficePager(QWidget *parent)
     setParentColor(true);
     resize(300, 150);
     attachToParent();
+    adoptInheritedStyle();
+}
+
+void TAdvOfficePager::setOfficeStyle(int style)
+{
+    if (style == m_officeStyle)
+        return;
+    m_officeStyle = style;
+    const OfficeStyleColors *c = officeStyle(style);
+    m_tabBar->setStyleSheet(
+        c ? QStringLiteral("QTabBar::tab { background: %1; color: %4; border: 1px solid %3; padding: 3px 10px; }"
+                           "QTabBar::tab:selected { background: %2; color: #000000; }")
+                .arg(QLatin1String(c->tab), QLatin1String(c->chosen), QLatin1String(c->border),
+                     QLatin1String(c->text))
+          : QString());
+    layoutPages();
+}
+
+void TAdvOfficePager::adoptInheritedStyle()
+{
+    for (const QWidget *w = parentWidget(); w; w = w->parentWidget()) {
+        const QVariant style = w->property(kStyleProperty);
+        if (style.isValid()) {
+            setOfficeStyle(style.toInt());
+            return;
+        }
+    }
+}
+
+void TAdvOfficePager::parentWidgetChanged(QWidget *)
+{
+    adoptInheritedStyle();
 }
 
 TAdvOfficePager::~TAdvOfficePager()
@@ -236,7 +301,8 @@ void TAdvOfficePager::paintEvent(QPaintEvent *)
 {
     QPainter p(this);
     const QRect r = pageRect().adjusted(-1, -1, 0, 0);
-    p.setPen(Colors::clBtnShadow.toQColor(palette()));
+    const OfficeStyleColors *style = officeStyle(m_officeStyle);
+    p.setPen(style ? QColor(QLatin1String(style->border)) : Colors::clBtnShadow.toQColor(palette()));
     p.setBrush(Qt::NoBrush);
     p.drawRect(r);
     if (m_pages.isEmpty() && isDesigning()) {

@@ -33,7 +33,29 @@ void UserDialogs::setInstance(UserDialogs *dialogs)
 
 bool TFileDialog::execute(QWidget *parent)
 {
-    return UserDialogs::instance().fileDialog(parent, *this);
+    if (!UserDialogs::instance().fileDialog(parent, *this))
+        return false;
+    const QString suffix = defaultSuffix();
+    if (kind == Save && !suffix.isEmpty() && !fileName.isEmpty() && QFileInfo(fileName).suffix().isEmpty()) {
+        fileName += QLatin1Char('.') + suffix;
+        if (!files.isEmpty())
+            files.first() = fileName;
+    }
+    return true;
+}
+
+QString TFileDialog::defaultSuffix() const
+{
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    const QStringList patterns = parts.value((filterIndex - 1) * 2 + 1).split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    if (patterns.size() == 1) {
+        const QString pattern = patterns.first().trimmed();
+        const QString ext = pattern.mid(2);
+        if (pattern.startsWith(QLatin1String("*.")) && !ext.isEmpty() && !ext.contains(QLatin1Char('*'))
+            && !ext.contains(QLatin1Char('?')))
+            return ext;
+    }
+    return defaultExt;
 }
 
 QString qtFilterFromFilterString(const QString &filter)
@@ -95,6 +117,9 @@ TModalResult QtUserDialogs::messageDlg(QWidget *parent, const QString &text, TMs
 bool QtUserDialogs::fileDialog(QWidget *parent, TFileDialog &dialog)
 {
     QFileDialog fd(parent, dialog.title);
+    // Qt's own dialogs speak the program's language (Qt's translations);
+    // a desktop's native ones would speak the desktop's.
+    fd.setOption(QFileDialog::DontUseNativeDialog);
     fd.setAcceptMode(dialog.kind == TFileDialog::Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     if (dialog.kind == TFileDialog::Open)
         fd.setFileMode(dialog.allowMultiSelect ? QFileDialog::ExistingFiles
@@ -106,7 +131,12 @@ bool QtUserDialogs::fileDialog(QWidget *parent, TFileDialog &dialog)
     fd.setNameFilters(filters);
     if (dialog.filterIndex >= 1 && dialog.filterIndex <= filters.size())
         fd.selectNameFilter(filters.at(dialog.filterIndex - 1));
-    fd.setDefaultSuffix(dialog.defaultExt);
+    fd.setDefaultSuffix(dialog.defaultSuffix());
+    QObject::connect(&fd, &QFileDialog::filterSelected, &fd, [&fd, &dialog, filters](const QString &chosen) {
+        TFileDialog probe = dialog;
+        probe.filterIndex = int(filters.indexOf(chosen)) + 1;
+        fd.setDefaultSuffix(probe.defaultSuffix());
+    });
     // A remembered file name may stand where a folder is expected: use its folder.
     QString dir = dialog.initialDir;
     if (!dir.isEmpty() && QFileInfo(dir).isFile())
@@ -129,7 +159,8 @@ bool QtUserDialogs::fileDialog(QWidget *parent, TFileDialog &dialog)
 
 std::optional<TColor> QtUserDialogs::colorDialog(QWidget *parent, TColor initial)
 {
-    const QColor chosen = QColorDialog::getColor(initial.toQColor(), parent);
+    const QColor chosen =
+        QColorDialog::getColor(initial.toQColor(), parent, QString(), QColorDialog::DontUseNativeDialog);
     if (!chosen.isValid())
         return std::nullopt;
     return TColor::fromQColor(chosen);
@@ -138,7 +169,7 @@ std::optional<TColor> QtUserDialogs::colorDialog(QWidget *parent, TColor initial
 std::optional<QFont> QtUserDialogs::fontDialog(QWidget *parent, const QFont &initial)
 {
     bool ok = false;
-    const QFont font = QFontDialog::getFont(&ok, initial, parent);
+    const QFont font = QFontDialog::getFont(&ok, initial, parent, QString(), QFontDialog::DontUseNativeDialog);
     if (!ok)
         return std::nullopt;
     return font;
@@ -146,7 +177,8 @@ std::optional<QFont> QtUserDialogs::fontDialog(QWidget *parent, const QFont &ini
 
 QString QtUserDialogs::directoryDialog(QWidget *parent, const QString &caption, const QString &initial)
 {
-    return QFileDialog::getExistingDirectory(parent, caption, initial);
+    return QFileDialog::getExistingDirectory(parent, caption, initial,
+                                             QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
 }
 
 int QtUserDialogs::execDialog(QDialog *dialog)

@@ -53,8 +53,13 @@ struct TFileDialog
     bool fileMustExist = false;
     bool overwritePrompt = false;
 
-    // Runs the dialog through UserDialogs; true when confirmed.
+    // Runs the dialog through UserDialogs; true when confirmed. A name saved
+    // without an extension gets defaultSuffix().
     bool execute(QWidget *parent = nullptr);
+    // What a name without extension is saved with: the extension of the
+    // chosen filter when it names exactly one, as the desktop's save dialogs
+    // do, otherwise defaultExt.
+    QString defaultSuffix() const;
 };
 
 // The one seam for everything modal that asks the user: message boxes, file,

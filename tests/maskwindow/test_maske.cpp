@@ -191,6 +191,23 @@ void TestMaske::everyPaletteCodePlacesItsKind()
     QCOMPARE(grid->Columns(), QStringList{QStringLiteral("Spaltentitel=120")});
     auto *combo = f.surface()->findChild<TcxComboBox *>();
     QVERIFY(!combo->TabStop());
+
+    // At run time a combo box and a lookup field are entered without
+    // selecting their text, unlike a text edit.
+    f.designer()->setActive(false);
+    QVERIFY(QTest::qWaitForWindowActive(f.mask));
+    auto *lookup = f.surface()->findChild<TcxDBPopupEdit *>();
+    TcxTextEdit *edit = nullptr;
+    for (TcxTextEdit *e : f.surface()->findChildren<TcxTextEdit *>())
+        if (!qobject_cast<TcxDBPopupEdit *>(e))
+            edit = e;
+    const auto entered = [](QWidget *w, QLineEdit *text) {
+        w->setFocus(Qt::TabFocusReason);
+        return w->hasFocus() && text->hasSelectedText();
+    };
+    QVERIFY(!entered(combo, combo->lineEdit()));
+    QVERIFY(!entered(lookup, lookup));
+    QVERIFY(entered(edit, edit));
 }
 
 void TestMaske::thePreviewImageIsMadeOnce()

@@ -22,6 +22,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QStackedWidget>
 #include <QSpinBox>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -210,6 +212,16 @@ void TestObjInspPages::shapeColours()
     QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("ShapePenColor")), Qt::LeftButton); // cancelled
     QCOMPARE(shape->BrushColor(), Colors::clYellow);
     QCOMPARE(shape->PenColor(), Colors::clNavy);
+
+    // So do a panel's colour and font buttons.
+    auto *panel = f.add<TPanel>(nullptr, QRect(100, 60, 80, 80));
+    f.select({panel});
+    f.dialogs.colorAnswers << std::optional<TColor>(Colors::clYellow);
+    f.dialogs.fontAnswers << QFont(QStringLiteral("Courier"), 13);
+    QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("Button6")), Qt::LeftButton);
+    QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("Button7")), Qt::LeftButton);
+    QCOMPARE(panel->Color(), Colors::clYellow);
+    QCOMPARE(panel->Font().Size, 13);
     QCOMPARE(f.dialogs.unexpected, 0);
 }
 
@@ -244,6 +256,13 @@ void TestObjInspPages::lookupPickListFlag()
     QVERIFY(!typ->isEnabled());
     retype(f.editor<QLineEdit>(QStringLiteral("LUNameCaption")), QStringLiteral("Kunde"));
     QCOMPARE(lookup->Tag(), -1);
+
+    // The page fits its window, and the longest letter case shows whole.
+    f.insp.show();
+    auto *page = qobject_cast<QScrollArea *>(f.insp.Notebook1()->currentWidget());
+    QVERIFY(page->widget()->width() <= page->viewport()->width());
+    auto *charCase = f.editor<QComboBox>(QStringLiteral("LUCharCase"));
+    QVERIFY(charCase->width() > charCase->fontMetrics().horizontalAdvance(QStringLiteral("Groß/Kleinschreibung")) + 20);
 }
 
 void TestObjInspPages::imagePage()
@@ -271,9 +290,15 @@ void TestObjInspPages::pagerPageAndNewPages()
     QCOMPARE(f.editor<QComboBox>(QStringLiteral("CBOfficePagerStyle"))->currentIndex(), f.mask->document()->OfficePagerStyle());
     QVERIFY(!f.mask->Modified());
 
-    // The style is the mask's.
+    // The style is the mask's, and every page control shows it; the tabs
+    // take their own font.
+    const QImage before = pager->tabBar()->grab().toImage();
     choose(f.editor<QComboBox>(QStringLiteral("CBOfficePagerStyle")), 4);
     QCOMPARE(f.mask->document()->OfficePagerStyle(), 4);
+    QVERIFY(pager->tabBar()->grab().toImage() != before);
+    f.dialogs.fontAnswers << QFont(QStringLiteral("Courier"), 14);
+    QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("Button4")), Qt::LeftButton);
+    QCOMPARE(pager->tabBar()->font().pointSize(), 14);
 
     // An empty caption gives the standard one.
     QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("NewPageBTN")), Qt::LeftButton);

@@ -2,6 +2,9 @@
 // clicks on the mask, the inspector following, the position and font tool
 // bars, delete and the keys.
 #include <QLineEdit>
+#include <QClipboard>
+#include <QMimeData>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
@@ -75,6 +78,9 @@ void TestDesigning::paletteClicksPlaceNamedControls()
     for (int i = 0; i < 3; ++i)
         placeWith(form.get(), "dxBarBtnLabel", surface, QPoint(16, 16 + 24 * i));
     QVERIFY(Components::findComponent(mask->document(), QStringLiteral("Label3")));
+    // The font the label gets, and its file keeps, is the one the font box shows.
+    QCOMPARE(TControl::from(mask->FormDesigner2()->currentControl())->Font().Name,
+             form->findChild<QComboBox *>(QStringLiteral("dxBarFontNameCombo1"))->currentText());
     QObject *label2 = Components::findComponent(mask->document(), QStringLiteral("Label2"));
     QVERIFY(label2);
     // The arrow is down again and the inspector shows the new label.
@@ -248,6 +254,16 @@ void TestDesigning::styleAndSettingsOpenFromTheMenus()
     QCOMPARE(dialogs.dialogTitles.mid(2),
              QStringList({QStringLiteral("Maskeneinstellungen"), QStringLiteral("Tabelle erzeugen")}));
     QCOMPARE(tableName, QStringLiteral("Kunden"));
+    // With OK they reach every open mask at once.
+    clickTool(form.get(), "FileNewItem");
+    dialogs.dialogAnswers << [](QDialog *dialog) {
+        dialog->findChild<QSpinBox *>(QStringLiteral("udnGridStep"))->setValue(24);
+        QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("btnOk")), Qt::LeftButton);
+        return dialog->result();
+    };
+    action(form.get(), "SettingsItem")->trigger();
+    QCOMPARE(mask->FormDesigner2()->GridStep(), 24);
+    QCOMPARE(form->activeMask()->FormDesigner2()->GridStep(), 24);
 }
 
 void TestDesigning::pastedEditsShareTheMaskStyle()
@@ -265,6 +281,17 @@ void TestDesigning::pastedEditsShareTheMaskStyle()
     auto *copy = qobject_cast<TcxTextEdit *>(Components::findComponent(mask->document(), QStringLiteral("cxTextEdit2")));
     QVERIFY(copy);
     QCOMPARE(copy->StyleController(), mask->document()->cxStyleController());
+
+    // An empty payload is an engine error: it ends as a message, not as a crash.
+    ScriptedDialogs dialogs;
+    dialogs.messageAnswers << mrOk;
+    auto *mime = new QMimeData;
+    mime->setData(QStringLiteral("application/x-qt-windows-mime;value=\"CF_DesignedObjects\""), QByteArray());
+    QGuiApplication::clipboard()->setMimeData(mime);
+    QTest::keyClick(surface, Qt::Key_Insert, Qt::ShiftModifier);
+    QCOMPARE(dialogs.messages.size(), 1);
+    QCOMPARE(dialogs.messages.at(0).type, mtError);
+    QVERIFY(!Components::findComponent(mask->document(), QStringLiteral("cxTextEdit3")));
 }
 
 QTEST_MAIN(TestDesigning)

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void aboutBoxShowsProductAndVersion();
     void paletteButtonsAreExclusive();
     void mainMenuBarHidesTheMenu();
+    void exitAsksEveryChangedMaskFirst();
 
 private:
     QTemporaryDir m_dir;
@@ -156,6 +157,15 @@ void TestMainForm::minimiseAllAndArrangeIcons()
         clickTool(form.get(), "FileNewItem");
     const QList<QMdiSubWindow *> windows = subWindows(form.get());
     QCOMPARE(windows.size(), 3);
+
+    // "Übereinander": full width, one above the other.
+    action(form.get(), "WindowTileItem")->trigger();
+    const QRect area = form->mdiArea()->viewport()->rect();
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(windows.at(i)->geometry().width(), area.width());
+        QCOMPARE(windows.at(i)->geometry().top(), i == 0 ? 0 : windows.at(i - 1)->geometry().bottom() + 1);
+    }
+    QCOMPARE(windows.at(2)->geometry().bottom(), area.bottom());
 
     action(form.get(), "WindowMinimizeItem")->trigger();
     for (QMdiSubWindow *w : windows)
@@ -320,6 +330,33 @@ void TestMainForm::mainMenuBarHidesTheMenu()
 
     // The status bar runs along the bottom edge.
     QCOMPARE(form->toolBarArea(form->bar(TMainForm::StatusBar)), Qt::BottomToolBarArea);
+}
+
+void TestMainForm::exitAsksEveryChangedMaskFirst()
+{
+    ScriptedDialogs dialogs;
+    auto form = showMainForm();
+    for (int i = 0; i < 3; ++i)
+        clickTool(form.get(), "FileNewItem");
+    for (int i : {0, 2})
+        qobject_cast<TMaske *>(subWindows(form.get()).at(i))->setModified(true);
+
+    // "Nein" on the first, "Abbrechen" on the second: nothing closes.
+    dialogs.messageAnswers << mrNo << mrAbort;
+    action(form.get(), "FileExitItem")->trigger();
+    flushDeletes();
+    QVERIFY(form->isVisible());
+    QCOMPARE(subWindows(form.get()).size(), 3);
+    QCOMPARE(dialogs.messages.size(), 2);
+
+    // Both agree: all close, each asked once.
+    dialogs.messageAnswers << mrNo << mrNo;
+    action(form.get(), "FileExitItem")->trigger();
+    flushDeletes();
+    QVERIFY(!form->isVisible());
+    QVERIFY(subWindows(form.get()).isEmpty());
+    QCOMPARE(dialogs.messages.size(), 4);
+    QCOMPARE(dialogs.unexpected, 0);
 }
 
 QTEST_MAIN(TestMainForm)

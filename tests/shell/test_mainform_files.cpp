@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <memory>
@@ -13,6 +14,7 @@
 #include "IniFile.h"
 #include "IniFileAccess.h"
 #include <cerrno>
+#include "RegistryStore.h"
 #include "TestSupport.h"
 #include "helper_shell.h"
 
@@ -81,6 +83,18 @@ void TestMainFormFiles::dialogFoldersWithoutSettings()
     QVERIFY(shown.allowMultiSelect);
     QVERIFY(shown.fileMustExist);
     QCOMPARE(form->SaveDialog1.initialDir, AppPaths::baseFolder());
+
+    // An installation keeps its masks in its own folder.
+    {
+        QSettings registry(m_dir.filePath(QStringLiteral("registry.ini")), QSettings::IniFormat);
+        registry.setValue(QStringLiteral("Installdir"), m_work->path());
+        registry.setValue(QStringLiteral("NXProtocol"), 0);
+        registry.setValue(QStringLiteral("NXConnection"), false);
+    }
+    RegistryStore::setFileForTests(m_dir.filePath(QStringLiteral("registry.ini")));
+    auto installed = showMainForm();
+    RegistryStore::setFileForTests(QString());
+    QCOMPARE(installed->OpenDialog.initialDir, AppPaths::withTrailingSeparator(m_work->path()) + QStringLiteral("Masken") + QDir::separator());
 }
 
 void TestMainFormFiles::openedAndSavedFilesSurviveARestart()
@@ -150,10 +164,12 @@ void TestMainFormFiles::openDialogOpensEverySelectedFile()
         QVERIFY(!mask->Modified());
         QVERIFY(mask->FormDesigner2()->Active());
         QCOMPARE(mask->document()->findChild<TPanel *>()->parentWidget(), mask->document());
+        // Whole in view, whatever size its resolution asks for.
+        QVERIFY(form->mdiArea()->viewport()->rect().contains(mask->geometry()));
     }
     QCOMPARE(windows.at(1)->size(), QSize(815, 473));
-    // The last one loaded is active: its resolution is not in the list.
-    QCOMPARE(form->resolutionList()->currentIndex(), -1);
+    // The last one loaded is active: the list shows its resolution, which it does not offer.
+    QCOMPARE(form->resolutionList()->currentText(), QStringLiteral("1000x700"));
     QCOMPARE(tabTexts(form->tabSet()),
              (QStringList{QStringLiteral("c.dbm"), QStringLiteral("a.dbm"), QStringLiteral("b.dbm")}));
     QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(2));
@@ -282,6 +298,13 @@ void TestMainFormFiles::untitledOrPathlessMaskAsksForAName()
     QCOMPARE(withoutSize(mask->windowTitle()), QStringLiteral("Bestellung.dbm"));
     QCOMPARE(mask->Path(), chosen);
     QCOMPARE(QDir(m_work->path()).entryList(QDir::Files).size(), 2);
+
+    // A name typed without extension is saved as a mask all the same.
+    dialogs.fileAnswers << QStringList{path(QStringLiteral("Lager"))};
+    clickTool(form.get(), "FileSaveAsItem");
+    QCOMPARE(dialogs.fileDialogs.last().defaultExt, QStringLiteral("dcf"));
+    QCOMPARE(mask->Path(), path(QStringLiteral("Lager.dbm")));
+    QVERIFY(QFile::exists(path(QStringLiteral("Lager.dbm"))));
     QCOMPARE(dialogs.unexpected, 0);
 }
 

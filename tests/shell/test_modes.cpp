@@ -1,4 +1,5 @@
 // Edit mode and run mode, and the resolution list that sizes the active mask.
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QScreen>
@@ -151,15 +152,30 @@ void TestModes::resolutionListSizesTheMask()
     QVERIFY(mask->scrollRanges().width() > screen.width());
     QCOMPARE(mask->size(), QSize(1167, 737)); // the window keeps its size
 
-    // Another mask shows its own resolution in the list.
+    // Choosing the entry shown applies it again.
+    mask->resize(500, 400);
+    const auto choose = [list](int index) {
+        list->showPopup();
+        QAbstractItemView *view = list->view();
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(view->model()->index(index, 0)).center());
+    };
+    choose(2);
+    QCOMPARE(mask->size(), QSize(1167, 737));
+
+    // Another mask shows its own resolution, also one the list lacks, and
+    // choosing that applies it by the rule of the list.
     clickTool(form.get(), "FileNewItem");
     TMaske *second = form->activeMask();
-    QVERIFY(second != mask);
-    // (The screen it was made on, which the list may not offer.)
-    QCOMPARE(list->currentIndex(),
-             list->findText(QStringLiteral("%1x%2").arg(second->document()->ScreenWidth()).arg(second->document()->ScreenHeight())));
+    second->document()->setScreenWidth(1366);
+    second->document()->setScreenHeight(768);
     form->mdiArea()->setActiveSubWindow(mask);
     QCOMPARE(list->currentText(), QStringLiteral("1152x869"));
+    QCOMPARE(list->count(), 7);
+    form->mdiArea()->setActiveSubWindow(second);
+    QCOMPARE(list->currentText(), QStringLiteral("1366x768"));
+    choose(list->currentIndex());
+    QCOMPARE(second->size(), QSize(1381, 641));
+    QCOMPARE(second->DesignWidth(), 1366);
 }
 
 QTEST_MAIN(TestModes)

@@ -214,6 +214,15 @@ void TestContainers::bevelsShapesAndPanelsPaintTheirKind()
     const QImage line = surface.grab().toImage();
     QCOMPARE(line.pixel(30, 10), shadow);
     QCOMPARE(line.pixel(10, 30), white); // no left edge now
+
+    // An empty picture marks its area with its symbol in a corner, leaving
+    // the middle to a note placed beneath it.
+    auto *picture = new TImageAspect(&surface);
+    picture->setBounds(180, 60, 100, 100);
+    picture->setDesigning(true);
+    const QImage empty = surface.grab().toImage();
+    for (int x = 190; x < 270; ++x)
+        QCOMPARE(empty.pixel(x, 110), white);
 }
 
 QTEST_MAIN(TestContainers)
