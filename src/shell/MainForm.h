@@ -203,6 +203,7 @@ private:
     QPointer<QTabBar> m_tabSet;
     QPointer<QLabel> m_statusPath;
     QPointer<QLabel> m_statusVersion;
+    QPointer<QLabel> m_statusRecord;
 
     QPointer<QMenu> m_fileMenu;
     QPointer<QMenu> m_editMenu;

@@ -282,7 +282,13 @@ void TMainForm::createStatusBar()
     m_statusVersion = new QLabel(panel);
     m_statusVersion->setObjectName(QStringLiteral("StatusVersion"));
     m_statusVersion->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_statusRecord = new QLabel(panel);
+    m_statusRecord->setObjectName(QStringLiteral("StatusRecord"));
+    // "Datensatz 12345 von 100000" stays readable beside a long path.
+    m_statusRecord->setMinimumWidth(m_statusRecord->fontMetrics().horizontalAdvance(QStringLiteral("Datensatz 0000000 von 0000000")));
     layout->addWidget(m_statusPath, 1);
+    layout->addWidget(m_statusRecord);
+    layout->addSpacing(12);
     layout->addWidget(m_statusVersion);
     panel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(panel);

@@ -6,6 +6,7 @@
 #include "MaskLoader.h"
 #include "MaskWriter.h"
 #include "Maske.h"
+#include "RunSession.h"
 
 #include <QFileInfo>
 #include <QPointer>
@@ -96,7 +97,14 @@ bool TMainForm::SaveMask(const QString &fileName)
         return false;
     mask->scrollToOrigin(); // the user sees the mask as it is stored
     QString error;
-    if (!MaskWriter::SaveMask(*mask->document(), fileName, &error)) {
+    bool saved = false;
+    // In run mode the controls show record data: the design is what is saved.
+    const auto save = [&] { saved = MaskWriter::SaveMask(*mask->document(), fileName, &error); };
+    if (TRunSession *session = TRunSession::of(mask->document()))
+        session->withDesign(save);
+    else
+        save();
+    if (!saved) {
         UserDialogs::instance().messageDlg(this, error, mtError, mbOK);
         return false;
     }

@@ -5,6 +5,7 @@
 #include "MaskResolutions.h"
 #include "Maske.h"
 #include "ObjectInspector.h"
+#include "RunSession.h"
 #include "SetupDialog.h"
 
 #include <QComboBox>
@@ -36,8 +37,16 @@ void TMainForm::createModeCommands()
 
 void TMainForm::EditMode1Click()
 {
-    if (TMaske *mask = activeMask())
+    if (TMaske *mask = activeMask()) {
+        // Unsaved record changes are asked about first; Cancel stays in run mode.
+        if (TRunSession *session = TRunSession::of(mask->document())) {
+            if (!session->stop())
+                return;
+            delete session;
+            updateStatusText();
+        }
         mask->FormDesigner2()->setActive(true);
+    }
     showObjectInspector();
     for (int i : kDesignBars)
         bar(i)->setVisible(true);
@@ -45,11 +54,21 @@ void TMainForm::EditMode1Click()
 
 void TMainForm::RunMode1Click()
 {
-    if (TMaske *mask = activeMask())
+    TMaske *mask = activeMask();
+    if (mask)
         mask->FormDesigner2()->setActive(false);
     m_objInsp->hide();
     for (int i : kDesignBars)
         bar(i)->setVisible(false);
+    if (mask && !TRunSession::of(mask->document())) {
+        // The mask's controls work on the records of its table; without one
+        // the mask stays a preview and the status bar says why.
+        auto *session = new TRunSession(mask->document(), this);
+        addToolBar(Qt::TopToolBarArea, session->navigator());
+        connect(session, &TRunSession::stateChanged, this, &TMainForm::updateStatusText);
+        session->start(m_frmSetup->ConnectionSettings());
+        updateStatusText();
+    }
 }
 
 void TMainForm::dxBar1024x768Click()

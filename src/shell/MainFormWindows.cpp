@@ -6,6 +6,7 @@
 #include "Colors.h"
 #include "FormDesigner.h"
 #include "Maske.h"
+#include "RunSession.h"
 #include "PaletteIcons.h"
 
 #include <QAction>
@@ -198,6 +199,12 @@ void TMainForm::updateStatusText()
         return;
     TMaske *mask = activeMask();
     m_statusPath->setText(mask ? mask->Path() : QString());
+    // Run mode: where the active mask stands in its records, or why it has none.
+    const TRunSession *session = mask ? TRunSession::of(mask->document()) : nullptr;
+    if (m_statusRecord)
+        m_statusRecord->setText(session ? session->statusText() : QString());
+    for (QToolBar *navigator : findChildren<QToolBar *>(QStringLiteral("RunNavigator")))
+        navigator->setVisible(session && navigator == session->navigator());
 }
 
 void TMainForm::dxBarWindowPopup()

@@ -1,0 +1,223 @@
+// Run mode as a user works it, on both engines: the mask's fields show and
+// edit the records of its table, the navigator and its keys, a new record
+// with its counter number, a required field refused, the grid following,
+// a change by someone else, and the design left byte-identical.
+#include <QLabel>
+#include <QMdiArea>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "Edits.h"
+#include "FormDesigner.h"
+#include "Grids.h"
+#include "MainForm.h"
+#include "Maske.h"
+#include "RunSession.h"
+#include "SetupDialog.h"
+#include "TestSupport.h"
+#include "AppPaths.h"
+#include "helper_db.h"
+
+namespace {
+DbFixture *g_fixture = nullptr;
+
+void clickNav(TRunSession *session, const char *name)
+{
+    QAction *a = session->action(name);
+    QVERIFY2(a && a->isEnabled(), name);
+    auto *button = qobject_cast<QToolButton *>(session->navigator()->widgetForAction(a));
+    QVERIFY(button);
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void typeInto(QWidget *edit, const QString &text)
+{
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    QTest::keyClicks(edit, text);
+}
+} // namespace
+
+class TestRunMode : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_dir.isValid());
+        AppPaths::setSettingsFileOverride(m_dir.filePath(QStringLiteral("ferolith.ini")));
+        g_fixture = new DbFixture;
+        QVERIFY(g_fixture->start());
+    }
+    void cleanupTestCase() { delete g_fixture; }
+    void enterNavigateEditAndBack_data();
+    void enterNavigateEditAndBack();
+    void withoutTableStaysPreview();
+
+private:
+    QTemporaryDir m_dir;
+};
+
+void TestRunMode::enterNavigateEditAndBack_data()
+{
+    QTest::addColumn<QString>("engine");
+    QTest::newRow("sqlite") << QStringLiteral("sqlite");
+    QTest::newRow("postgres") << QStringLiteral("postgres");
+}
+
+void TestRunMode::enterNavigateEditAndBack()
+{
+    QFETCH(QString, engine);
+    const TConnectionSettings settings = g_fixture->settings(engine);
+    ScriptedDialogs dialogs;
+    {
+        TDbConnection connection;
+        TTableGenerator generator(connection, settings);
+        generator.TableName = QStringLiteral("Kunde");
+        dialogs.messageAnswers << mrOk;
+        generator.Rows = {fieldRow(QStringLiteral("Nummer"), QStringLiteral("A"), QStringLiteral("10"), true),
+                          fieldRow(QStringLiteral("Name"), QStringLiteral("A"), QStringLiteral("30"))};
+        QVERIFY(generator.CreateDB());
+        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Kunde\" (\"Nummer\", \"Name\") VALUES "
+                                                   "('K1', 'Adam'), ('K2', 'Berta'), ('K3', 'Cäsar')"));
+    }
+    QVERIFY(QDir().mkpath(settings.DBPfad));
+    QVERIFY(writeFileBytes(settings.DBPfad + QStringLiteral("K.NUM"), "7"));
+
+    TMainForm form(QStringList{});
+    form.resize(1100, 750);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    form.frmSetup()->setConnectionSettings(settings);
+    QTest::mouseClick(qobject_cast<QToolButton *>(form.bar(TMainForm::FileMenuBar)->widgetForAction(
+                          form.findChild<QAction *>(QStringLiteral("FileNewItem")))),
+                      Qt::LeftButton);
+    TMaske *mask = form.activeMask();
+    QVERIFY(mask);
+    auto *number = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, mask->document(), {20, 20}));
+    auto *name = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, mask->document(), {20, 60}));
+    auto *grid = qobject_cast<TDBGrid *>(mask->placeControl(TPaletteCode::Grid, mask->document(), {20, 100}));
+    QVERIFY(number && name && grid);
+    number->setText(QStringLiteral("Nummer"));
+    name->setText(QStringLiteral("Name"));
+    name->setTabStop(true); // required
+    name->setHelpKeyword(QStringLiteral("Kundenname"));
+    grid->setObjectName(QStringLiteral("DBGrid1"));
+    grid->setColumns({QStringLiteral("Nummer=80"), QStringLiteral("Name=150")});
+    mask->document()->setTabelle(QStringLiteral("Kunde"));
+    TTableSettings ts;
+    ts.Index = QStringLiteral("Nummer");
+    ts.Dateizaehler = QStringLiteral("K.NUM");
+    ts.Felder = QStringLiteral("Nummer");
+    ts.Fokus = QStringLiteral("Name");
+    mask->document()->setTableSettings(ts);
+    const QString file = m_dir.filePath(QStringLiteral("Kunde-%1.dbm").arg(engine));
+    QVERIFY(form.SaveMask(file));
+    const QByteArray designed = readFileBytes(file);
+
+    form.RunMode1Click();
+    TRunSession *session = TRunSession::of(mask->document());
+    QVERIFY(session && session->hasData());
+    auto *status = form.findChild<QLabel *>(QStringLiteral("StatusRecord"));
+    QCOMPARE(status->text(), QStringLiteral("Datensatz 1 von 3"));
+    QCOMPARE(number->text(), QStringLiteral("K1"));
+    QCOMPARE(grid->rowCount(), 3);
+    QCOMPARE(grid->item(2, 1)->text(), QStringLiteral("Cäsar"));
+
+    // Keys and buttons move; the grid follows, a grid click leads.
+    name->setFocus();
+    QTest::keyClick(name, Qt::Key_PageDown);
+    QCOMPARE(name->text(), QStringLiteral("Berta"));
+    QCOMPARE(grid->currentRow(), 1);
+    clickNav(session, "NavLast");
+    QCOMPARE(status->text(), QStringLiteral("Datensatz 3 von 3"));
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualItemRect(grid->item(0, 0)).center());
+    QCOMPARE(name->text(), QStringLiteral("Adam"));
+
+    // Edit and save with F2; the grid shows the new value.
+    typeInto(name, QStringLiteral("Anton"));
+    QTest::keyClick(name, Qt::Key_F2);
+    QCOMPARE(grid->item(0, 1)->text(), QStringLiteral("Anton"));
+    // Typed, then cancelled with Esc.
+    typeInto(name, QStringLiteral("Falsch"));
+    QTest::keyClick(name, Qt::Key_Escape);
+    QCOMPARE(name->text(), QStringLiteral("Anton"));
+
+    // Saving the mask in run mode saves the design, not the record.
+    typeInto(name, QStringLiteral("Ungespeichert"));
+    QVERIFY(form.SaveMask(file));
+    QCOMPARE(readFileBytes(file), designed);
+    QCOMPARE(name->text(), QStringLiteral("Ungespeichert"));
+    QTest::keyClick(name, Qt::Key_Escape);
+
+    // A new record: counter number, focus on "Fokus"; the empty required name is refused.
+    QTest::keyClick(name, Qt::Key_Insert);
+    QCOMPARE(number->text(), QStringLiteral("8"));
+    QCOMPARE(QApplication::focusWidget(), name);
+    dialogs.messageAnswers << mrOk;
+    QTest::keyClick(name, Qt::Key_F2);
+    QCOMPARE(dialogs.messages.last().text, QStringLiteral("Das Feld „Kundenname“ muss ausgefüllt werden."));
+    QCOMPARE(session->table().count(), 3);
+    QTest::keyClicks(name, QStringLiteral("Dora"));
+    QTest::keyClick(name, Qt::Key_F2);
+    QCOMPARE(session->table().count(), 4);
+    QCOMPARE(status->text(), QStringLiteral("Datensatz 1 von 4")); // "8" sorts first
+
+    // Someone else changes the record meanwhile: not overwritten; reloaded on Yes.
+    {
+        TDbConnection other;
+        QVERIFY(other.Connect(settings));
+        execOk(other.engine(), QStringLiteral("UPDATE \"Kunde\" SET \"Name\" = 'Doris' WHERE \"Nummer\" = '8'"));
+    }
+    typeInto(name, QStringLiteral("Dorothea"));
+    dialogs.messageAnswers << mrYes;
+    QTest::keyClick(name, Qt::Key_F2);
+    QVERIFY(dialogs.messages.last().text.contains(QStringLiteral("anderen Benutzer geändert")));
+    QCOMPARE(name->text(), QStringLiteral("Doris"));
+
+    // Delete asks; Yes removes it.
+    dialogs.messageAnswers << mrYes;
+    QTest::keyClick(name, Qt::Key_Delete, Qt::ControlModifier);
+    QCOMPARE(dialogs.messages.last().text, QStringLiteral("Soll der Datensatz gelöscht werden?"));
+    QCOMPARE(session->table().count(), 3);
+    QCOMPARE(grid->rowCount(), 3);
+
+    // Leaving with a typed change asks; No drops it. The design is back.
+    typeInto(name, QStringLiteral("Weg"));
+    dialogs.messageAnswers << mrNo;
+    form.EditMode1Click();
+    QVERIFY(!TRunSession::of(mask->document()));
+    QCOMPARE(name->text(), QStringLiteral("Name"));
+    QCOMPARE(grid->rowCount(), 0);
+    QVERIFY(form.SaveMask(file));
+    QCOMPARE(readFileBytes(file), designed);
+    QCOMPARE(dialogs.unexpected, 0);
+    mask->setModified(false);
+    mask->close();
+}
+
+void TestRunMode::withoutTableStaysPreview()
+{
+    ScriptedDialogs dialogs;
+    TMainForm form(QStringList{});
+    form.show();
+    form.frmSetup()->setConnectionSettings(g_fixture->settings(QStringLiteral("sqlite")));
+    form.FileNewItemClick();
+    TMaske *mask = form.activeMask();
+    auto *edit = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, mask->document(), {20, 20}));
+    edit->setText(QStringLiteral("Name"));
+    mask->document()->setTabelle(QStringLiteral("NieErzeugt"));
+    form.RunMode1Click();
+    QCOMPARE(form.findChild<QLabel *>(QStringLiteral("StatusRecord"))->text(),
+             QStringLiteral("Keine Daten: Die Tabelle „NieErzeugt“ ist noch nicht erzeugt."));
+    // Typing in the preview is no design change.
+    typeInto(edit, QStringLiteral("Hallo"));
+    form.EditMode1Click();
+    QCOMPARE(edit->text(), QStringLiteral("Name"));
+    mask->setModified(false);
+}
+
+QTEST_MAIN(TestRunMode)
+#include "test_runmode.moc"
