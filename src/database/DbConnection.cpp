@@ -25,7 +25,7 @@ QString TDbConnection::ConnectionErrorText(const QString &serverName)
     return QStringLiteral("Fehler: Konnte keine Verbindung zum Datenbankserver herstellen.\n\rServer: ") + serverName;
 }
 
-bool TDbConnection::Connect(const TConnectionSettings &settings, QWidget *parent)
+bool TDbConnection::Connect(const TConnectionSettings &settings, QWidget *parent, bool reportFailure)
 {
     nxWinsock.setActive(false);
     nxNamedPipe.setActive(false);
@@ -69,7 +69,8 @@ bool TDbConnection::Connect(const TConnectionSettings &settings, QWidget *parent
         return true;
     }
     m_lastError = nxDatabase.LastError();
-    UserDialogs::instance().messageDlg(parent, ConnectionErrorText(settings.DBServerName), mtError, mbOK);
+    if (reportFailure)
+        UserDialogs::instance().messageDlg(parent, ConnectionErrorText(settings.DBServerName), mtError, mbOK);
     nxSession.setActive(false);
     return false;
 }

@@ -17,8 +17,9 @@ public:
     TDbConnection &operator=(const TDbConnection &) = delete;
 
     // The connect step. On failure shows the connection error box (parent
-    // for the box), leaves the session inactive and returns false.
-    bool Connect(const TConnectionSettings &settings, QWidget *parent = nullptr);
+    // for the box) unless told to stay quiet, leaves the session inactive
+    // and returns false.
+    bool Connect(const TConnectionSettings &settings, QWidget *parent = nullptr, bool reportFailure = true);
 
     // The text of the error box for a server name.
     static QString ConnectionErrorText(const QString &serverName);

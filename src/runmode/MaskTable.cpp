@@ -109,7 +109,8 @@ bool TMaskTable::open(const TConnectionSettings &settings, const QString &table,
         return false;
     }
     m_connection = std::make_unique<TDbConnection>();
-    if (!m_connection->Connect(settings) || !m_connection->engine()) {
+    // Run mode without a database is the preview; the status bar says why.
+    if (!m_connection->Connect(settings, nullptr, /*reportFailure*/ false) || !m_connection->engine()) {
         *why = QStringLiteral("Keine Verbindung zur Datenbank: %1").arg(m_connection->LastError());
         return false;
     }
