@@ -111,7 +111,13 @@ TWizard::TWizard(TMaskDocument *mask, QWidget *parent)
     resize(600, 440);
 }
 
-TWizard::~TWizard() = default;
+TWizard::~TWizard()
+{
+    // A folder edit that loses the focus while the children are destroyed
+    // would call back into a wizard that is already half gone.
+    for (QLineEdit *edit : findChildren<QLineEdit *>())
+        disconnect(edit, nullptr, this, nullptr);
+}
 
 QStringList TWizard::macros()
 {
