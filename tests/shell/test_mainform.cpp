@@ -3,13 +3,11 @@
 #include <QFile>
 #include <QLabel>
 #include <QPointer>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include "AppPaths.h"
 #include "TestSupport.h"
-#include "Version.h"
 #include "ControlKinds.h"
 #include "helper_shell.h"
 
@@ -28,7 +26,6 @@ private Q_SLOTS:
     void minimiseAllAndArrangeIcons();
     void commandsNeedAnOpenMask();
     void onlyTheFirstCommandLineArgumentIsOpened();
-    void aboutBoxShowsProductAndVersion();
     void paletteButtonsAreExclusive();
     void mainMenuBarHidesTheMenu();
     void exitAsksEveryChangedMaskFirst();
@@ -248,33 +245,6 @@ void TestMainForm::onlyTheFirstCommandLineArgumentIsOpened()
     form.hide();
     form.show();
     QCOMPARE(form.mdiArea()->subWindowList().size(), 1);
-}
-
-void TestMainForm::aboutBoxShowsProductAndVersion()
-{
-    ScriptedDialogs dialogs;
-    QStringList labels;
-    QPointer<QDialog> shown;
-    QString okText;
-    dialogs.dialogAnswers << [&](QDialog *box) {
-        shown = box;
-        for (const QLabel *label : box->findChildren<QLabel *>())
-            labels << label->text();
-        if (auto *ok = box->findChild<QPushButton *>())
-            okText = ok->text();
-        return int(QDialog::Accepted);
-    };
-    auto form = showMainForm();
-    action(form.get(), "HelpAboutItem")->trigger();
-
-    QCOMPARE(dialogs.dialogTitles, QStringList{QStringLiteral("Programminfo")});
-    QVERIFY(labels.contains(QStringLiteral("Ferolith")));
-    QVERIFY(labels.contains(QStringLiteral("für Quorbex 18.x")));
-    QVERIFY(labels.contains(Version::text()));
-    QCOMPARE(okText, QStringLiteral("&OK"));
-    // The box is made for one showing and freed afterwards.
-    QVERIFY(shown.isNull());
-    QCOMPARE(dialogs.unexpected, 0);
 }
 
 void TestMainForm::paletteButtonsAreExclusive()
