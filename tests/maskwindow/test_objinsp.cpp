@@ -51,8 +51,6 @@ private slots:
     void pageFollowsTheSelection();
     void fillingShowsValuesWithoutWriting();
     void textTypeDisablesTheLength();
-    void buttonPageShowsEditorsOfTheAction_data();
-    void buttonPageShowsEditorsOfTheAction();
     void buttonPageWritesAndPicksFiles();
     void ruleDialogWritesOnlyOnOk();
     void checkDialogReadsAndWritesTheOptionText();
@@ -195,69 +193,16 @@ void TestObjInsp::textTypeDisablesTheLength()
     QVERIFY(!f.editor<QSpinBox>(QStringLiteral("DBLabelSize"))->isEnabled());
 }
 
-void TestObjInsp::buttonPageShowsEditorsOfTheAction_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QStringList>("shown");
-    QTest::addColumn<QString>("sectionLabel");
-    const QStringList assign = {QStringLiteral("BtnZuweisMaske"), QStringLiteral("BtnZuweisFeld"),
-                                QStringLiteral("BtnZuweisFeldEx"), QStringLiteral("BtnIndexFeld")};
-    const QStringList program = {QStringLiteral("BtnZuweisMaske"), QStringLiteral("BtnProgExt"),
-                                 QStringLiteral("BtnSectionExt"), QStringLiteral("BtnRunAs")};
-    for (int kind : {0, 1, 2, 5})
-        QTest::addRow("kind %d", kind) << kind << QStringList() << QString();
-    QTest::newRow("assign") << 3 << assign << QString();
-    QTest::newRow("list") << 4 << (assign + QStringList{QStringLiteral("BtnZuweisRule")}) << QString();
-    QTest::newRow("program") << 6 << program << QStringLiteral("INI Sektion:");
-    // The others edit the extension field (ProgExt), under another label.
-    for (int kind : {7, 8, 9})
-        QTest::addRow("kind %d", kind) << kind << QStringList{QStringLiteral("BtnProgExt")}
-                                       << QStringLiteral("Sektion Erweiterung:");
-    QTest::newRow("ini") << 10 << QStringList{QStringLiteral("BtnProgExt")} << QStringLiteral("Sektion:");
-    QTest::newRow("rule") << 11 << QStringList{QStringLiteral("BtnZuweisRule")} << QString();
-}
-
-void TestObjInsp::buttonPageShowsEditorsOfTheAction()
-{
-    QFETCH(int, kind);
-    QFETCH(QStringList, shown);
-    QFETCH(QString, sectionLabel);
-    InspFixture f;
-    auto *button = f.add<TMaskBtn>();
-    button->setTag(kind == 0 ? 11 : 0); // so that choosing the kind is a change
-    f.select({button});
-    choose(f.editor<QComboBox>(QStringLiteral("BtnAction")), kind);
-    QCOMPARE(button->Tag(), kind);
-
-    const QStringList optional = {QStringLiteral("BtnZuweisMaske"), QStringLiteral("BtnZuweisFeld"),
-                                  QStringLiteral("BtnZuweisFeldEx"), QStringLiteral("BtnIndexFeld"),
-                                  QStringLiteral("BtnProgExt"),      QStringLiteral("BtnSectionExt"),
-                                  QStringLiteral("BtnRunAs"),        QStringLiteral("BtnZuweisRule")};
-    for (const QString &name : optional)
-        QVERIFY2(f.editor<QWidget>(name)->isVisibleTo(&f.insp) == shown.contains(name), qPrintable(name));
-    for (const QString &name : {QStringLiteral("BtnCaption"), QStringLiteral("BtnLayout"),
-                                QStringLiteral("BtnMargin"), QStringLiteral("BtnAction")})
-        QVERIFY2(f.editor<QWidget>(name)->isVisibleTo(&f.insp), qPrintable(name));
-    if (!sectionLabel.isEmpty()) {
-        // The label belongs to the section editor's row (program) or to the
-        // extension's.
-        const QString row = kind == 6 ? QStringLiteral("BtnSectionExt") : QStringLiteral("BtnProgExt");
-        const QList<QLabel *> labels = f.insp.findChildren<QLabel *>();
-        bool found = false;
-        for (QLabel *l : labels)
-            found = found || (l->buddy() == f.editor<QWidget>(row) && l->text() == sectionLabel);
-        QVERIFY2(found, qPrintable(sectionLabel));
-    }
-    QCOMPARE(f.editor<QToolButton>(QStringLiteral("BtnZuweisMaskeBtn"))->isVisibleTo(&f.insp),
-             shown.contains(QStringLiteral("BtnZuweisMaske")));
-}
-
 void TestObjInsp::buttonPageWritesAndPicksFiles()
 {
     InspFixture f;
     auto *button = f.add<TMaskBtn>();
     f.select({button});
+    // The page shows only the editors the chosen action uses.
+    const auto shown = [&f](const char *name) { return f.editor<QWidget>(QLatin1String(name))->isVisibleTo(&f.insp); };
+    QVERIFY(!shown("BtnZuweisFeld") && !shown("BtnZuweisMaskeBtn"));
     choose(f.editor<QComboBox>(QStringLiteral("BtnAction")), 3);
+    QVERIFY(shown("BtnZuweisFeld") && shown("BtnZuweisMaskeBtn") && !shown("BtnProgExt"));
     retype(f.editor<QLineEdit>(QStringLiteral("BtnZuweisFeld")), QStringLiteral("KDNR"));
     retype(f.editor<QLineEdit>(QStringLiteral("BtnIndexFeld")), QStringLiteral("NR"));
     QCOMPARE(button->ZuweisFeld(), QStringLiteral("KDNR"));
@@ -271,6 +216,7 @@ void TestObjInsp::buttonPageWritesAndPicksFiles()
     QCOMPARE(button->ZuweisMaske(), QStringLiteral("/masken/kunden.dbm"));
 
     choose(f.editor<QComboBox>(QStringLiteral("BtnAction")), 6);
+    QVERIFY(!shown("BtnZuweisFeld") && shown("BtnProgExt") && shown("BtnRunAs"));
     retype(f.editor<QLineEdit>(QStringLiteral("BtnProgExt")), QStringLiteral("pdf"));
     retype(f.editor<QLineEdit>(QStringLiteral("BtnSectionExt")), QStringLiteral("Viewer"));
     clickCheck(f.editor<QCheckBox>(QStringLiteral("BtnRunAs")));
