@@ -92,7 +92,8 @@ bool takeIniOption(QStringList &arguments, QString *errorMessage)
         if (arg == QLatin1String("--ini")) {
             if (i + 1 >= arguments.size() || arguments.at(i + 1).isEmpty()) {
                 if (errorMessage)
-                    *errorMessage = QStringLiteral("Die Option --ini braucht einen Dateinamen.");
+                    *errorMessage
+                        = QCoreApplication::translate("AppPaths", "Die Option --ini braucht einen Dateinamen.");
                 return false;
             }
             setSettingsFileOverride(arguments.at(i + 1));
@@ -103,7 +104,8 @@ bool takeIniOption(QStringList &arguments, QString *errorMessage)
             const QString path = arg.mid(6);
             if (path.isEmpty()) {
                 if (errorMessage)
-                    *errorMessage = QStringLiteral("Die Option --ini braucht einen Dateinamen.");
+                    *errorMessage
+                        = QCoreApplication::translate("AppPaths", "Die Option --ini braucht einen Dateinamen.");
                 return false;
             }
             setSettingsFileOverride(path);
@@ -117,14 +119,18 @@ bool takeIniOption(QStringList &arguments, QString *errorMessage)
 bool takeStartArguments(const char *program, QStringList &arguments)
 {
     arguments = QCoreApplication::arguments();
-    QString error;
-    if (!takeIniOption(arguments, &error)) {
+    const bool iniTaken = takeIniOption(arguments);
+    // The settings file may choose the language, so the language is known
+    // only now; a broken --ini leaves it to the system's.
+    Localiser::activate();
+    if (!iniTaken) {
+        QString error;
+        takeIniOption(arguments, &error);
         QTextStream(stderr) << program << ": " << error << Qt::endl;
         return false;
     }
     if (!arguments.isEmpty())
         arguments.removeFirst();
-    Localiser::activate();
     return true;
 }
 

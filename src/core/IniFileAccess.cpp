@@ -1,5 +1,6 @@
 #include "IniFileAccess.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -25,10 +26,15 @@ QString nativePath(const QString &fileName)
     return QDir::toNativeSeparators(QFileInfo(fileName).absoluteFilePath());
 }
 
-QString failure(const QString &fileName, const char *verb, const QString &reason)
+enum class Access { Reading, Writing };
+
+QString failure(const QString &fileName, Access access, const QString &reason)
 {
-    QString message = QStringLiteral("Die Datei „%1“ konnte nicht %2 werden: %3")
-                          .arg(nativePath(fileName), QString::fromUtf8(verb), reason);
+    QString message
+        = (access == Access::Reading
+               ? QCoreApplication::translate("IniFileAccess", "Die Datei „%1“ konnte nicht gelesen werden: %2")
+               : QCoreApplication::translate("IniFileAccess", "Die Datei „%1“ konnte nicht geschrieben werden: %2"))
+              .arg(nativePath(fileName), reason);
     if (!message.endsWith(QLatin1Char('.')))
         message += QLatin1Char('.');
     return message;
@@ -45,12 +51,13 @@ QString writeFailureReason(const QFileInfo &info, const QString &fallback)
 {
     const QFileInfo folder(info.absolutePath());
     if (!folder.exists())
-        return QStringLiteral("Der Ordner „%1“ existiert nicht")
+        return QCoreApplication::translate("IniFileAccess", "Der Ordner „%1“ existiert nicht")
             .arg(QDir::toNativeSeparators(folder.absoluteFilePath()));
     if (!folder.isDir())
-        return QStringLiteral("„%1“ ist kein Ordner").arg(QDir::toNativeSeparators(folder.absoluteFilePath()));
+        return QCoreApplication::translate("IniFileAccess", "„%1“ ist kein Ordner")
+            .arg(QDir::toNativeSeparators(folder.absoluteFilePath()));
     if (!folder.isWritable() || (info.exists() && !info.isWritable()))
-        return QStringLiteral("Zugriff verweigert");
+        return QCoreApplication::translate("IniFileAccess", "Zugriff verweigert");
     return fallback;
 }
 
@@ -60,39 +67,42 @@ bool readWhole(const QString &fileName, QByteArray *bytes, QString *errorMessage
 {
     bytes->clear();
     if (fileName.isEmpty()) {
-        report(errorMessage, QStringLiteral("Es wurde kein Dateiname angegeben."));
+        report(errorMessage, QCoreApplication::translate("IniFileAccess", "Es wurde kein Dateiname angegeben."));
         return false;
     }
     const QFileInfo info(fileName);
     const auto fail = [&](const QString &reason) {
-        report(errorMessage, failure(fileName, "gelesen", reason));
+        report(errorMessage, failure(fileName, Access::Reading, reason));
         bytes->clear();
         return false;
     };
     if (!info.exists())
-        return fail(QStringLiteral("Datei nicht gefunden"));
+        return fail(QCoreApplication::translate("IniFileAccess", "Datei nicht gefunden"));
     if (info.isDir())
-        return fail(QStringLiteral("Es ist ein Ordner"));
+        return fail(QCoreApplication::translate("IniFileAccess", "Es ist ein Ordner"));
     // Devices and pipes may never end; only regular files are read.
     if (!info.isFile())
-        return fail(QStringLiteral("Es ist keine gewöhnliche Datei"));
+        return fail(QCoreApplication::translate("IniFileAccess", "Es ist keine gewöhnliche Datei"));
     if (info.size() > kMaxFileSize) {
         const qint64 megabytes = (info.size() + (1 << 20) - 1) >> 20;
-        report(errorMessage, QStringLiteral("Die Datei „%1“ wird nicht gelesen: Sie ist %2 MB groß, "
-                                            "erlaubt sind höchstens %3 MB.")
-                                 .arg(nativePath(fileName))
-                                 .arg(megabytes)
-                                 .arg(kMaxFileSize >> 20));
+        report(errorMessage,
+               QCoreApplication::translate("IniFileAccess",
+                                           "Die Datei „%1“ wird nicht gelesen: Sie ist %2 MB groß, "
+                                           "erlaubt sind höchstens %3 MB.")
+                   .arg(nativePath(fileName))
+                   .arg(megabytes)
+                   .arg(kMaxFileSize >> 20));
         return false;
     }
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
-        return fail(info.isReadable() ? file.errorString() : QStringLiteral("Zugriff verweigert"));
+        return fail(info.isReadable() ? file.errorString()
+                                      : QCoreApplication::translate("IniFileAccess", "Zugriff verweigert"));
     *bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return fail(file.errorString());
     if (bytes->size() > kMaxFileSize)
-        return fail(QStringLiteral("Sie ist größer als %1 MB").arg(kMaxFileSize >> 20));
+        return fail(QCoreApplication::translate("IniFileAccess", "Sie ist größer als %1 MB").arg(kMaxFileSize >> 20));
     return true;
 }
 
@@ -140,14 +150,14 @@ QString systemReason(int error)
 #ifdef EDQUOT
     case EDQUOT:
 #endif
-        return QStringLiteral("Auf dem Datenträger ist nicht genug Platz");
+        return QCoreApplication::translate("IniFileAccess", "Auf dem Datenträger ist nicht genug Platz");
     case EACCES:
     case EPERM:
-        return QStringLiteral("Zugriff verweigert");
+        return QCoreApplication::translate("IniFileAccess", "Zugriff verweigert");
     case EROFS:
-        return QStringLiteral("Der Datenträger ist schreibgeschützt");
+        return QCoreApplication::translate("IniFileAccess", "Der Datenträger ist schreibgeschützt");
     case EIO:
-        return QStringLiteral("Ein-/Ausgabefehler des Datenträgers");
+        return QCoreApplication::translate("IniFileAccess", "Ein-/Ausgabefehler des Datenträgers");
     default:
         return QString::fromLocal8Bit(std::strerror(error));
     }
@@ -209,29 +219,31 @@ bool writeWhole(const QString &fileName, const QByteArray &bytes, QString *error
                 const QString &backupExtension)
 {
     if (fileName.isEmpty()) {
-        report(errorMessage, QStringLiteral("Es wurde kein Dateiname angegeben."));
+        report(errorMessage, QCoreApplication::translate("IniFileAccess", "Es wurde kein Dateiname angegeben."));
         return false;
     }
     const auto failAt = [&](const QString &name, const QString &reason) {
-        report(errorMessage, failure(name, "geschrieben", reason));
+        report(errorMessage, failure(name, Access::Writing, reason));
         return false;
     };
     QString target = fileName;
     if (!followLinks(&target))
-        return failAt(fileName, QStringLiteral("Zu viele verkettete Verknüpfungen"));
+        return failAt(fileName, QCoreApplication::translate("IniFileAccess", "Zu viele verkettete Verknüpfungen"));
     const QFileInfo info(target);
     const auto fail = [&](const QString &reason) { return failAt(target, reason); };
     if (info.isDir())
-        return fail(QStringLiteral("Es ist ein Ordner"));
+        return fail(QCoreApplication::translate("IniFileAccess", "Es ist ein Ordner"));
     const bool isNew = !info.exists();
     if (!isNew && !info.isFile())
-        return fail(QStringLiteral("Es ist keine gewöhnliche Datei"));
+        return fail(QCoreApplication::translate("IniFileAccess", "Es ist keine gewöhnliche Datei"));
     // A file without any write permission is write-protected for everyone,
     // the superuser included, whom the system would let through.
     const auto writeBits = QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
     if (!isNew && (!info.isWritable() || !(info.permissions() & writeBits))) {
-        report(errorMessage, QStringLiteral("Die Datei „%1“ ist schreibgeschützt und wurde nicht überschrieben.")
-                                 .arg(nativePath(target)));
+        report(errorMessage,
+               QCoreApplication::translate("IniFileAccess",
+                                           "Die Datei „%1“ ist schreibgeschützt und wurde nicht überschrieben.")
+                   .arg(nativePath(target)));
         return false;
     }
 
@@ -285,8 +297,9 @@ bool writeWhole(const QString &fileName, const QByteArray &bytes, QString *error
     if (!isNew && !backupPath.isEmpty() && ::rename(targetPath.constData(), backupPath.constData()) != 0) {
         const int error = errno;
         ::unlink(tempPath.constData());
-        return fail(QStringLiteral("Die Sicherungskopie „%1“ konnte nicht angelegt werden: %2")
-                        .arg(QDir::toNativeSeparators(QFile::decodeName(backupPath)), systemReason(error)));
+        return fail(
+            QCoreApplication::translate("IniFileAccess", "Die Sicherungskopie „%1“ konnte nicht angelegt werden: %2")
+                .arg(QDir::toNativeSeparators(QFile::decodeName(backupPath)), systemReason(error)));
     }
     if (::rename(tempPath.constData(), targetPath.constData()) != 0) {
         const int error = errno;

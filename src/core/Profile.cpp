@@ -4,6 +4,7 @@
 #include "TextCodec.h"
 #include "ValueEncodings.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 using namespace IniFileAccess;
@@ -161,7 +162,8 @@ bool writeString(const QString &fileName, const QString &section, const QString 
 {
     if (trimmed(key).isEmpty()) {
         if (errorMessage)
-            *errorMessage = QStringLiteral("Ein Eintrag ohne Schlüsselnamen kann nicht geschrieben werden.");
+            *errorMessage = QCoreApplication::translate(
+                "Profile", "Ein Eintrag ohne Schlüsselnamen kann nicht geschrieben werden.");
         return false;
     }
     QByteArray bytes;

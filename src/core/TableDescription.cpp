@@ -2,6 +2,7 @@
 
 #include "IniFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -107,7 +108,9 @@ bool write(const QString &databaseFolder, const QString &table, const TTableSett
 {
     if (!plainName(table)) {
         if (errorMessage)
-            *errorMessage = QStringLiteral("Der Tabellenname „%1“ ist kein gültiger Dateiname.").arg(table);
+            *errorMessage
+                = QCoreApplication::translate("TableDescription", "Der Tabellenname „%1“ ist kein gültiger Dateiname.")
+                      .arg(table);
         return false;
     }
     // Written anew: entries removed from the mask must not linger in the file.

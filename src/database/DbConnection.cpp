@@ -4,6 +4,7 @@
 #include "ConnectionSettings.h"
 #include "UserDialogs.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 TDbConnection::TDbConnection()
@@ -22,7 +23,9 @@ TDbConnection::~TDbConnection()
 
 QString TDbConnection::ConnectionErrorText(const QString &serverName)
 {
-    return QStringLiteral("Fehler: Konnte keine Verbindung zum Datenbankserver herstellen.\n\rServer: ") + serverName;
+    return QCoreApplication::translate("TDbConnection",
+                                       "Fehler: Konnte keine Verbindung zum Datenbankserver herstellen.\n\rServer: %1")
+        .arg(serverName);
 }
 
 bool TDbConnection::Connect(const TConnectionSettings &settings, QWidget *parent, bool reportFailure)

@@ -3,6 +3,7 @@
 #include "SqlEngine.h"
 
 #include <QAtomicInt>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -42,7 +43,7 @@ bool TnxComponent::setActive(bool active)
 bool TnxRemoteServer::doOpen(QString *errorMessage)
 {
     if (!m_transport) {
-        setError(errorMessage, QStringLiteral("Kein Verbindungstyp gewählt."));
+        setError(errorMessage, QCoreApplication::translate("TDbObjects", "Kein Verbindungstyp gewählt."));
         return false;
     }
     return m_transport->setActive(true) || (setError(errorMessage, m_transport->LastError()), false);
@@ -51,7 +52,7 @@ bool TnxRemoteServer::doOpen(QString *errorMessage)
 bool TnxSession::doOpen(QString *errorMessage)
 {
     if (!m_engine) {
-        setError(errorMessage, QStringLiteral("Die Sitzung hat keinen Datenbankserver."));
+        setError(errorMessage, QCoreApplication::translate("TDbObjects", "Die Sitzung hat keinen Datenbankserver."));
         return false;
     }
     if (!m_engine->setActive(true)) {
@@ -87,7 +88,7 @@ void TnxDatabase::setSession(TnxSession *session)
 bool TnxDatabase::doOpen(QString *errorMessage)
 {
     if (!m_session) {
-        setError(errorMessage, QStringLiteral("Die Datenbank hat keine Sitzung."));
+        setError(errorMessage, QCoreApplication::translate("TDbObjects", "Die Datenbank hat keine Sitzung."));
         return false;
     }
     if (!m_session->setActive(true)) {
@@ -108,12 +109,14 @@ bool TnxDatabase::doOpen(QString *errorMessage)
 bool TnxDatabase::openLocal(QString *errorMessage)
 {
     if (m_aliasPath.trimmed().isEmpty()) {
-        setError(errorMessage, QStringLiteral("Es ist kein Datenbankpfad eingestellt."));
+        setError(errorMessage, QCoreApplication::translate("TDbObjects", "Es ist kein Datenbankpfad eingestellt."));
         return false;
     }
     const QString folder = QDir::fromNativeSeparators(m_aliasPath);
     if (!QDir().mkpath(folder) || !QFileInfo(folder).isDir()) {
-        setError(errorMessage, QStringLiteral("Der Ordner „%1“ kann nicht angelegt werden.").arg(m_aliasPath));
+        setError(
+            errorMessage,
+            QCoreApplication::translate("TDbObjects", "Der Ordner „%1“ kann nicht angelegt werden.").arg(m_aliasPath));
         return false;
     }
     m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
@@ -153,11 +156,12 @@ void TnxDatabase::doClose()
 bool TnxTable::doOpen(QString *errorMessage)
 {
     if (!m_database || !m_database->Active() || !m_database->engine()) {
-        setError(errorMessage, QStringLiteral("Die Datenbank ist nicht geöffnet."));
+        setError(errorMessage, QCoreApplication::translate("TDbObjects", "Die Datenbank ist nicht geöffnet."));
         return false;
     }
     if (!m_database->engine()->tableExists(m_tableName)) {
-        setError(errorMessage, QStringLiteral("Die Tabelle „%1“ gibt es nicht.").arg(m_tableName));
+        setError(errorMessage,
+                 QCoreApplication::translate("TDbObjects", "Die Tabelle „%1“ gibt es nicht.").arg(m_tableName));
         return false;
     }
     return true;

@@ -1,5 +1,7 @@
 #include "FieldTypes.h"
 
+#include <QCoreApplication>
+
 int TDataDictionary::fieldIndex(const QString &name) const
 {
     for (int i = 0; i < Fields.size(); ++i)
@@ -96,9 +98,11 @@ QVector<TFieldDef> internalFields()
 
 QString legend()
 {
-    return QStringLiteral("Legende:\r\nA = Textfeld\r\nI = Zahlenfeld\r\nI64 = Zahl 64Bit\r\nN = Dezimalfeld\r\n"
-                          "D = Datumsfeld\r\nT = Uhrzeitfeld\r\n@ = Datum und Zeit\r\n$ = Währungsfeld\r\n"
-                          "+ = Auto Zählfeld\r\nM = Memo\r\nL = Logisch (Ja/Nein)\r\nS = Byte");
+    return QCoreApplication::translate(
+        "FieldTypes",
+        "Legende:\r\nA = Textfeld\r\nI = Zahlenfeld\r\nI64 = Zahl 64Bit\r\nN = Dezimalfeld\r\n"
+        "D = Datumsfeld\r\nT = Uhrzeitfeld\r\n@ = Datum und Zeit\r\n$ = Währungsfeld\r\n"
+        "+ = Auto Zählfeld\r\nM = Memo\r\nL = Logisch (Ja/Nein)\r\nS = Byte");
 }
 
 } // namespace FieldTypes

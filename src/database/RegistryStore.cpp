@@ -1,5 +1,6 @@
 #include "RegistryStore.h"
 
+#include <QCoreApplication>
 #include <QSettings>
 #include <QVariant>
 
@@ -12,12 +13,12 @@ QString &testFile()
 
 QString missing(const QString &name)
 {
-    return QStringLiteral("Wert „%1“ fehlt.").arg(name);
+    return QCoreApplication::translate("RegistryStore", "Wert „%1“ fehlt.").arg(name);
 }
 
 QString malformed(const QString &name, const QString &what)
 {
-    return QStringLiteral("Wert „%1“ ist %2.").arg(name, what);
+    return QCoreApplication::translate("RegistryStore", "Wert „%1“ ist %2.").arg(name, what);
 }
 
 void report(QString *errorMessage, const QString &text)

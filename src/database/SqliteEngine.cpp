@@ -1,5 +1,6 @@
 #include "SqliteEngine.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -201,7 +202,8 @@ bool TSqliteEngine::createTable(const QString &table, const TDataDictionary &dic
         names << field.Name;
     if (rowIdName(names).isEmpty()) {
         if (errorMessage)
-            *errorMessage = QStringLiteral("Die Felder „rowid“, „_rowid_“ und „oid“ schließen einander in SQLite aus.");
+            *errorMessage = QCoreApplication::translate(
+                "TSqliteEngine", "Die Felder „rowid“, „_rowid_“ und „oid“ schließen einander in SQLite aus.");
         return false;
     }
     QStringList defs;

@@ -83,12 +83,13 @@ bool TTableGenerator::convert(TSqlEngine &engine, const QHash<QString, qint64> &
         }
         if (count > 0) {
             if (count > kListedRows)
-                lines << QStringLiteral("… und %1 weitere").arg(count - kListedRows);
-            const QString text = QStringLiteral("FEHLER\n\rDiese Datensätze passen nicht in die neuen Feldtypen "
-                                                "und können nicht übernommen werden:\n\r")
-                + lines.join(QStringLiteral("\n\r"))
-                + QStringLiteral("\n\rSollen die übrigen Daten ohne sie übernommen werden? Bei Nein bleibt die "
-                                 "Tabelle unverändert.");
+                lines << QCoreApplication::translate("TTableGenerator", "… und %1 weitere").arg(count - kListedRows);
+            const QString text = QCoreApplication::translate(
+                                     "TTableGenerator",
+                                     "FEHLER\n\rDiese Datensätze passen nicht in die neuen Feldtypen und können "
+                                     "nicht übernommen werden:\n\r%1\n\rSollen die übrigen Daten ohne sie "
+                                     "übernommen werden? Bei Nein bleibt die Tabelle unverändert.")
+                                     .arg(lines.join(QStringLiteral("\n\r")));
             if (UserDialogs::instance().messageDlg(Parent, text, mtWarning, mbYes | mbNo) != mrYes) {
                 engine.rollback();
                 return false;
@@ -115,7 +116,9 @@ bool TTableGenerator::convert(TSqlEngine &engine, const QHash<QString, qint64> &
                                  &error);
     }
     if (!copied)
-        return fail(engine, QStringLiteral("Die Daten konnten nicht übernommen werden: ") + error);
+        return fail(engine,
+                    QCoreApplication::translate("TTableGenerator", "Die Daten konnten nicht übernommen werden: ")
+                        + error);
 
     // The counters go on where the old table's stood, and never below a
     // number the table already holds.

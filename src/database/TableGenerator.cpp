@@ -32,7 +32,8 @@ void TTableGenerator::message(const QString &text, int type)
 
 void TTableGenerator::rowError(int row, int column, const QString &text)
 {
-    message(QStringLiteral("Fehler in Zeile: ") + QString::number(row) + QStringLiteral("\n\r") + text, mtError);
+    message(QCoreApplication::translate("TTableGenerator", "Fehler in Zeile: %1\n\r%2").arg(QString::number(row), text),
+            mtError);
     if (OnRowError)
         OnRowError(row, column);
 }
@@ -46,15 +47,21 @@ bool TTableGenerator::checkRows(const QStringList &reservedWords)
         bool sized = false;
         r.Size.trimmed().toInt(&sized);
         if (code == QLatin1String("A") && !sized) {
-            rowError(row, 3, QStringLiteral("Im Zeichnen Feldtyp fehlt die Feldgröße. Funktion wird abgebrochen."));
+            rowError(row, 3,
+                     QCoreApplication::translate(
+                         "TTableGenerator", "Im Zeichnen Feldtyp fehlt die Feldgröße. Funktion wird abgebrochen."));
             return false;
         }
         if (code.isEmpty()) {
-            rowError(row, 2, QStringLiteral("Der Datenbank Feldtyp fehlt. Funktion wird abgebrochen."));
+            rowError(row, 2,
+                     QCoreApplication::translate("TTableGenerator",
+                                                 "Der Datenbank Feldtyp fehlt. Funktion wird abgebrochen."));
             return false;
         }
         if (r.FieldName.isEmpty()) {
-            rowError(row, 1, QStringLiteral("Der Datenbank Feldname fehlt. Funktion wird abgebrochen."));
+            rowError(row, 1,
+                     QCoreApplication::translate("TTableGenerator",
+                                                 "Der Datenbank Feldname fehlt. Funktion wird abgebrochen."));
             return false;
         }
         if (reservedWords.contains(r.FieldName.trimmed().toUpper())) {
@@ -97,8 +104,8 @@ void TTableGenerator::buildDictionary()
 bool TTableGenerator::fail(TSqlEngine &engine, const QString &text)
 {
     engine.rollback();
-    message(QStringLiteral("FEHLER\n\r") + text + QStringLiteral("\n\rDie Tabelle ") + TableName
-                + QStringLiteral(" bleibt unverändert."),
+    message(QCoreApplication::translate("TTableGenerator", "FEHLER\n\r%1\n\rDie Tabelle %2 bleibt unverändert.")
+                .arg(text, TableName),
             mtError);
     return false;
 }
@@ -107,7 +114,9 @@ bool TTableGenerator::CreateDB()
 {
     // 1. A table name.
     if (TableName.isEmpty()) {
-        message(QStringLiteral("Achtung Tabellenname Fehlt\n\rBitte geben Sie ein Tabellenname ein."), mtWarning);
+        message(QCoreApplication::translate("TTableGenerator",
+                                            "Achtung Tabellenname Fehlt\n\rBitte geben Sie ein Tabellenname ein."),
+                mtWarning);
         if (OnTableNameMissing)
             OnTableNameMissing();
         return false;
@@ -124,9 +133,11 @@ bool TTableGenerator::CreateDB()
         QString error;
         reserved = m_connection.engine()->reservedWords(&error);
         if (reserved.isEmpty()) {
-            message(QStringLiteral("Die reservierten Wörter des Datenbankservers konnten nicht gelesen werden:\n\r")
-                        + error,
-                    mtError);
+            message(
+                QCoreApplication::translate(
+                    "TTableGenerator", "Die reservierten Wörter des Datenbankservers konnten nicht gelesen werden:\n\r")
+                    + error,
+                mtError);
             return false;
         }
     }
@@ -142,7 +153,9 @@ bool TTableGenerator::CreateDB()
     if (Description) {
         QString error;
         if (!TableDescription::write(withSeparator(m_settings.DBPfad), TableName, *Description, &error))
-            message(QStringLiteral("Die Beschreibungsdatei der Tabelle konnte nicht geschrieben werden:\n\r") + error,
+            message(QCoreApplication::translate(
+                        "TTableGenerator", "Die Beschreibungsdatei der Tabelle konnte nicht geschrieben werden:\n\r")
+                        + error,
                     mtWarning);
     }
 
@@ -161,11 +174,13 @@ bool TTableGenerator::CreateDB()
         if (!error.isEmpty())
             return fail(engine, error);
         if (hasData
-            && UserDialogs::instance().messageDlg(Parent,
-                                                  QStringLiteral("Tabelle ") + TableName
-                                                      + QStringLiteral(" enthält bereits Daten, sollen die Daten "
-                                                                       "Übernommen werden?"),
-                                                  mtConfirmation, mbYes | mbNo)
+            && UserDialogs::instance().messageDlg(
+                   Parent,
+                   QCoreApplication::translate("TTableGenerator",
+                                               "Tabelle %1 enthält bereits Daten, sollen die Daten "
+                                               "Übernommen werden?")
+                       .arg(TableName),
+                   mtConfirmation, mbYes | mbNo)
                 == mrYes) {
             converting = true;
             if (engine.tableExists(tempTableName()) && !engine.dropTable(tempTableName(), &error))
@@ -186,18 +201,21 @@ bool TTableGenerator::CreateDB()
         QCoreApplication::processEvents();
         buildDictionary();
         if (!engine.createTable(TableName, m_dictionary, &error))
-            return fail(engine, QStringLiteral("Die Tabelle konnte nicht erstellt werden: ") + error);
+            return fail(engine,
+                        QCoreApplication::translate("TTableGenerator", "Die Tabelle konnte nicht erstellt werden: ")
+                            + error);
         if (!converting && !engine.commit(&error))
             return fail(engine, error);
     }
-    message(QStringLiteral("Datenbank ") + TableName + QStringLiteral(" wurde erfolgreich erstellt"), mtInformation);
+    message(QCoreApplication::translate("TTableGenerator", "Datenbank %1 wurde erfolgreich erstellt").arg(TableName),
+            mtInformation);
     if (!converting)
         return true;
 
     // 9. The old data into the new table.
     if (!convert(engine, autoInc))
         return false;
-    message(QStringLiteral("Daten wurden erfolgreich konvertiert."), mtInformation);
+    message(QCoreApplication::translate("TTableGenerator", "Daten wurden erfolgreich konvertiert."), mtInformation);
     if (OnConverted)
         OnConverted();
     return true;

@@ -29,7 +29,7 @@ QString codeMeaning(const QString &code)
         if (eq > 0 && line.left(eq) == code)
             return line.mid(eq + 3);
     }
-    return code == QLatin1String("R") ? QStringLiteral("Datensatzversion") : QString();
+    return code == QLatin1String("R") ? QCoreApplication::translate("TDbexpl", "Datensatzversion") : QString();
 }
 } // namespace
 
@@ -37,12 +37,12 @@ TDbexpl::TDbexpl(QWidget *parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("Dbexpl"));
-    setWindowTitle(QStringLiteral("Tabelle erzeugen"));
+    setWindowTitle(tr("Tabelle erzeugen"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     TableName = new QLineEdit;
     TableName->setObjectName(QStringLiteral("TableName"));
-    auto *nameLabel = new QLabel(QStringLiteral("&Tabellenname:"));
+    auto *nameLabel = new QLabel(tr("&Tabellenname:"));
     nameLabel->setBuddy(TableName);
     auto *nameRow = new QHBoxLayout;
     nameRow->addWidget(nameLabel);
@@ -50,8 +50,7 @@ TDbexpl::TDbexpl(QWidget *parent)
 
     Grid = new QTableWidget(0, 5);
     Grid->setObjectName(QStringLiteral("Grid"));
-    Grid->setHorizontalHeaderLabels({QStringLiteral("Feldname"), QStringLiteral("Typ"), QStringLiteral("Größe"),
-                                     QStringLiteral("Schlüssel"), QStringLiteral("Feldbeschreibung")});
+    Grid->setHorizontalHeaderLabels({tr("Feldname"), tr("Typ"), tr("Größe"), tr("Schlüssel"), tr("Feldbeschreibung")});
     Grid->setSelectionMode(QAbstractItemView::SingleSelection);
     // Typing, F2 or a double click edits the current cell, as in a spreadsheet.
     Grid->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked
@@ -76,10 +75,8 @@ TDbexpl::TDbexpl(QWidget *parent)
         m_typeActions << item;
     }
     m_typeActions << TypeMenu->addSeparator();
-    connect(TypeMenu->addAction(QStringLiteral("Zeile einfügen")), &QAction::triggered, this,
-            &TDbexpl::InsertRowClick);
-    connect(TypeMenu->addAction(QStringLiteral("Zeile löschen")), &QAction::triggered, this,
-            &TDbexpl::DeleteRowClick);
+    connect(TypeMenu->addAction(tr("Zeile einfügen")), &QAction::triggered, this, &TDbexpl::InsertRowClick);
+    connect(TypeMenu->addAction(tr("Zeile löschen")), &QAction::triggered, this, &TDbexpl::DeleteRowClick);
 
     // The legend keeps its line breaks as the product writes them.
     Legend = new QLabel(QString(FieldTypes::legend()).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
@@ -100,7 +97,7 @@ TDbexpl::TDbexpl(QWidget *parent)
     Gauge->setRange(0, 1);
     Gauge->setValue(0);
     Gauge->setTextVisible(false);
-    CreateDB = new QPushButton(QStringLiteral("Tabelle &erzeugen"));
+    CreateDB = new QPushButton(tr("Tabelle &erzeugen"));
     CreateDB->setObjectName(QStringLiteral("CreateDB"));
     connect(CreateDB, &QPushButton::clicked, this, &TDbexpl::CreateDBClick);
     OKBtn = new QPushButton(QStringLiteral("OK"));
@@ -198,8 +195,7 @@ void TDbexpl::TypeMenuClick(const QString &code)
         return;
     // A memo field is made in the mask, where its control is.
     if (code == QLatin1String("M")) {
-        UserDialogs::instance().messageDlg(this, QStringLiteral("Bitte ändern Sie das Feld in der Maske ab."),
-                                           mtInformation, mbOK);
+        UserDialogs::instance().messageDlg(this, tr("Bitte ändern Sie das Feld in der Maske ab."), mtInformation, mbOK);
         return;
     }
     setCell(row, colTyp, code);

@@ -58,15 +58,15 @@ TfrmSetup::TfrmSetup(QWidget *parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmSetup"));
-    setWindowTitle(QStringLiteral("Einstellungen"));
+    setWindowTitle(tr("Einstellungen"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     auto *top = new QHBoxLayout;
     top->addWidget(createDesignerBox(), 1);
     auto *grabs = new QVBoxLayout;
-    grabs->addWidget(createGrabBox(QStringLiteral("grbNormalGrabs"), QStringLiteral("Normal grabs"), swNBorder, swNFill));
-    grabs->addWidget(createGrabBox(QStringLiteral("grbMultiGrabs"), QStringLiteral("Multi grabs"), swMBorder, swMFill));
-    grabs->addWidget(createGrabBox(QStringLiteral("grbLockedGrabs"), QStringLiteral("Gesperrte grabs"), swLBorder, swLFill));
+    grabs->addWidget(createGrabBox(QStringLiteral("grbNormalGrabs"), tr("Normal grabs"), swNBorder, swNFill));
+    grabs->addWidget(createGrabBox(QStringLiteral("grbMultiGrabs"), tr("Multi grabs"), swMBorder, swMFill));
+    grabs->addWidget(createGrabBox(QStringLiteral("grbLockedGrabs"), tr("Gesperrte grabs"), swLBorder, swLFill));
     grabs->addStretch();
     top->addLayout(grabs);
 
@@ -74,7 +74,7 @@ TfrmSetup::TfrmSetup(QWidget *parent)
     m_btnOk->setObjectName(QStringLiteral("btnOk"));
     m_btnOk->setDefault(true);
     connect(m_btnOk, &QPushButton::clicked, this, &TfrmSetup::okClicked);
-    m_btnCancel = new QPushButton(QStringLiteral("Abbruch"));
+    m_btnCancel = new QPushButton(tr("Abbruch"));
     m_btnCancel->setObjectName(QStringLiteral("btnCancel"));
     connect(m_btnCancel, &QPushButton::clicked, this, &QDialog::reject);
     auto *buttons = new QHBoxLayout;
@@ -96,12 +96,12 @@ TfrmSetup::~TfrmSetup() = default;
 
 QGroupBox *TfrmSetup::createDesignerBox()
 {
-    auto *box = new QGroupBox(QStringLiteral("Designer"));
+    auto *box = new QGroupBox(tr("Designer"));
     box->setObjectName(QStringLiteral("grbDesigner"));
 
-    m_chbDisplayGrid = checkBox(QStringLiteral("chbDisplayGrid"), QStringLiteral("Raster sichtbar"));
-    m_chbSnapToGrid = checkBox(QStringLiteral("chbSnapToGrid"), QStringLiteral("an Raster schnappen"));
-    m_chbShowHint = checkBox(QStringLiteral("chbShowHint"), QStringLiteral("Show hint when move/size"));
+    m_chbDisplayGrid = checkBox(QStringLiteral("chbDisplayGrid"), tr("Raster sichtbar"));
+    m_chbSnapToGrid = checkBox(QStringLiteral("chbSnapToGrid"), tr("an Raster schnappen"));
+    m_chbShowHint = checkBox(QStringLiteral("chbShowHint"), tr("Show hint when move/size"));
     m_udnGridStep = sizeSpinBox(QStringLiteral("udnGridStep"), QStringLiteral("edtGridStep"), 8);
     m_edtGridStep = m_udnGridStep->findChild<QLineEdit *>();
     m_udnGrabSize = sizeSpinBox(QStringLiteral("udnGrabSize"), QStringLiteral("edtGrabSize"), 5);
@@ -113,11 +113,11 @@ QGroupBox *TfrmSetup::createDesignerBox()
     grid->addWidget(m_chbDisplayGrid, row++, 0, 1, 4);
     grid->addWidget(m_chbSnapToGrid, row++, 0, 1, 4);
     grid->setRowMinimumHeight(row++, 6);
-    grid->addWidget(buddyLabel(QStringLiteral("Grid schritt"), m_udnGridStep), row, 0);
+    grid->addWidget(buddyLabel(tr("Grid schritt"), m_udnGridStep), row, 0);
     grid->addWidget(m_udnGridStep, row++, 1, 1, 2);
-    addSwatchRow(grid, row++, QStringLiteral("Designer Farbe"), swDesigner);
-    addSwatchRow(grid, row++, QStringLiteral("Grid Farbe"), swGrid);
-    grid->addWidget(buddyLabel(QStringLiteral("Grab handle größe"), m_udnGrabSize), row, 0);
+    addSwatchRow(grid, row++, tr("Designer Farbe"), swDesigner);
+    addSwatchRow(grid, row++, tr("Grid Farbe"), swGrid);
+    grid->addWidget(buddyLabel(tr("Grab handle größe"), m_udnGrabSize), row, 0);
     grid->addWidget(m_udnGrabSize, row++, 1, 1, 2);
     grid->setRowMinimumHeight(row++, 6);
     grid->addWidget(m_chbShowHint, row++, 0, 1, 4);
@@ -130,8 +130,8 @@ QGroupBox *TfrmSetup::createGrabBox(const QString &name, const QString &title, S
     auto *box = new QGroupBox(title);
     box->setObjectName(name);
     auto *grid = new QGridLayout(box);
-    addSwatchRow(grid, 0, QStringLiteral("Rahmen"), border);
-    addSwatchRow(grid, 1, QStringLiteral("Füllung"), fill);
+    addSwatchRow(grid, 0, tr("Rahmen"), border);
+    addSwatchRow(grid, 1, tr("Füllung"), fill);
     grid->setColumnMinimumWidth(0, 60);
     return box;
 }
@@ -146,7 +146,7 @@ void TfrmSetup::addSwatchRow(QGridLayout *grid, int row, const QString &text, Sw
 
 QGroupBox *TfrmSetup::createProtocolBox()
 {
-    m_ServerProtokol = new QGroupBox(QStringLiteral(" Verbindungstyp "));
+    m_ServerProtokol = new QGroupBox(tr(" Verbindungstyp "));
     m_ServerProtokol->setObjectName(QStringLiteral("ServerProtokol"));
     m_protocolButtons = new QButtonGroup(m_ServerProtokol);
     auto *row = new QHBoxLayout(m_ServerProtokol);
@@ -164,13 +164,13 @@ QGroupBox *TfrmSetup::createProtocolBox()
 
 QGroupBox *TfrmSetup::createDatabaseBox()
 {
-    auto *box = new QGroupBox(QStringLiteral("Datenbank"));
+    auto *box = new QGroupBox(tr("Datenbank"));
     box->setObjectName(QStringLiteral("grbDatabase"));
 
-    m_DBLocal = new QRadioButton(QStringLiteral("Local"));
+    m_DBLocal = new QRadioButton(tr("Local"));
     m_DBLocal->setObjectName(QStringLiteral("DBLocal"));
     m_DBLocal->setChecked(true);
-    m_DBServer = new QRadioButton(QStringLiteral("Server"));
+    m_DBServer = new QRadioButton(tr("Server"));
     m_DBServer->setObjectName(QStringLiteral("DBServer"));
     // Only a user's click switches the mode's controls; loading applies the rule once itself.
     connect(m_DBLocal, &QRadioButton::clicked, this, &TfrmSetup::updateServerControls);
@@ -189,7 +189,7 @@ QGroupBox *TfrmSetup::createDatabaseBox()
     m_btnDBPfad = new QToolButton;
     m_btnDBPfad->setObjectName(QStringLiteral("btnDBPfad"));
     m_btnDBPfad->setText(QStringLiteral("…"));
-    m_btnDBPfad->setToolTip(QStringLiteral("Datenbankpfad auswählen"));
+    m_btnDBPfad->setToolTip(tr("Datenbankpfad auswählen"));
     connect(m_btnDBPfad, &QToolButton::clicked, this, &TfrmSetup::browseDatabasePath);
     auto *pathRow = new QHBoxLayout;
     pathRow->setSpacing(2);
@@ -198,20 +198,20 @@ QGroupBox *TfrmSetup::createDatabaseBox()
 
     m_Userlogin = new QLineEdit;
     m_Userlogin->setObjectName(QStringLiteral("Userlogin"));
-    m_LoginLabel = buddyLabel(QStringLiteral("Login:"), m_Userlogin, QStringLiteral("LoginLabel"));
+    m_LoginLabel = buddyLabel(tr("Login:"), m_Userlogin, QStringLiteral("LoginLabel"));
     // Shown as typed, not masked: users check what they entered here, as
     // they always could.
     m_Userpass = new QLineEdit;
     m_Userpass->setObjectName(QStringLiteral("Userpass"));
-    m_PwLabel = buddyLabel(QStringLiteral("Passwort:"), m_Userpass, QStringLiteral("PwLabel"));
+    m_PwLabel = buddyLabel(tr("Passwort:"), m_Userpass, QStringLiteral("PwLabel"));
 
     m_DBServerName = new QComboBox;
     m_DBServerName->setObjectName(QStringLiteral("DBServerName"));
     m_DBServerName->setEditable(true);
     m_DBServerName->setInsertPolicy(QComboBox::NoInsert);
     connect(m_DBServerName, &QComboBox::currentTextChanged, this, &TfrmSetup::updateScanAlias);
-    m_ServerNameLabel = buddyLabel(QStringLiteral("Servername:"), m_DBServerName, QStringLiteral("ServerNameLabel"));
-    m_ServerScanBtn = new QPushButton(QStringLiteral("Scan Server"));
+    m_ServerNameLabel = buddyLabel(tr("Servername:"), m_DBServerName, QStringLiteral("ServerNameLabel"));
+    m_ServerScanBtn = new QPushButton(tr("Scan Server"));
     m_ServerScanBtn->setObjectName(QStringLiteral("ServerScanBtn"));
     connect(m_ServerScanBtn, &QPushButton::clicked, this, &TfrmSetup::ServerScanBtnClick);
 
@@ -219,8 +219,8 @@ QGroupBox *TfrmSetup::createDatabaseBox()
     m_DBAlias->setObjectName(QStringLiteral("DBAlias"));
     m_DBAlias->setEditable(true);
     m_DBAlias->setInsertPolicy(QComboBox::NoInsert);
-    m_DBAliasLabel = buddyLabel(QStringLiteral("DB Alias:"), m_DBAlias, QStringLiteral("DBAliasLabel"));
-    m_ScanAlias = new QPushButton(QStringLiteral("Scan Alias"));
+    m_DBAliasLabel = buddyLabel(tr("DB Alias:"), m_DBAlias, QStringLiteral("DBAliasLabel"));
+    m_ScanAlias = new QPushButton(tr("Scan Alias"));
     m_ScanAlias->setObjectName(QStringLiteral("ScanAlias"));
     m_ScanAlias->setEnabled(false); // needs a server name first
     connect(m_ScanAlias, &QPushButton::clicked, this, &TfrmSetup::ScanAliasClick);
@@ -231,16 +231,16 @@ QGroupBox *TfrmSetup::createDatabaseBox()
     m_ScanTimeOut->setSingleStep(100);
     m_ScanTimeOut->setValue(1500);
     m_ScanTimeOut->setAlignment(Qt::AlignRight);
-    m_lblTimeOut = buddyLabel(QStringLiteral("Timeout ms:"), m_ScanTimeOut, QStringLiteral("lblTimeOut"));
+    m_lblTimeOut = buddyLabel(tr("Timeout ms:"), m_ScanTimeOut, QStringLiteral("lblTimeOut"));
 
     auto *grid = new QGridLayout(box);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(4, 1);
     grid->setColumnMinimumWidth(2, 12);
     int row = 0;
-    grid->addWidget(new QLabel(QStringLiteral("DB Verbindung:")), row, 0);
+    grid->addWidget(new QLabel(tr("DB Verbindung:")), row, 0);
     grid->addWidget(mode, row++, 1, 1, 5);
-    grid->addWidget(buddyLabel(QStringLiteral("Datenbankpfad:"), m_DBPfad), row, 0);
+    grid->addWidget(buddyLabel(tr("Datenbankpfad:"), m_DBPfad), row, 0);
     grid->addLayout(pathRow, row++, 1, 1, 5);
     grid->addWidget(m_LoginLabel, row, 0);
     grid->addWidget(m_Userlogin, row, 1);
@@ -311,8 +311,8 @@ void TfrmSetup::ScanAliasClick()
 
 void TfrmSetup::browseDatabasePath()
 {
-    const QString folder = UserDialogs::instance().directoryDialog(
-        this, QStringLiteral("Bitte wählen Sie den Datenbankpfad aus:"), m_DBPfad->text());
+    const QString folder = UserDialogs::instance().directoryDialog(this, tr("Bitte wählen Sie den Datenbankpfad aus:"),
+                                                                   m_DBPfad->text());
     if (folder.isEmpty())
         return;
     QString path = QDir::toNativeSeparators(folder);

@@ -44,7 +44,7 @@ QToolButton *TfrmSetup::createSwatchButton(Swatch swatch)
     auto *button = new QToolButton;
     button->setObjectName(QLatin1String("btn") + QLatin1String(s_swatches[swatch].name));
     button->setText(QStringLiteral("..."));
-    button->setToolTip(QStringLiteral("Farbe wählen"));
+    button->setToolTip(tr("Farbe wählen"));
     button->setFocusPolicy(Qt::StrongFocus);
     connect(button, &QToolButton::clicked, this, [this, swatch] { chooseColor(swatch); });
     return button;
@@ -70,8 +70,7 @@ void TfrmSetup::chooseColor(Swatch swatch)
     TFormDesigner *designer = activeDesigner ? activeDesigner() : nullptr;
     if (!designer) {
         // The dialog starts from the open mask's colour; without a mask there is none.
-        UserDialogs::instance().messageDlg(this, QStringLiteral("Es ist keine Maske geöffnet."), mtInformation,
-                                           mbOK);
+        UserDialogs::instance().messageDlg(this, tr("Es ist keine Maske geöffnet."), mtInformation, mbOK);
         return;
     }
     const TColor preset = s_swatches[swatch].get(*designer);

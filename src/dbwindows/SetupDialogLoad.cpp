@@ -37,9 +37,7 @@ void TfrmSetup::loadSettings()
         // The window stays usable with what was read so far; the settings
         // file is left for another session rather than mixed with a half-read registry.
         UserDialogs::instance().messageDlg(
-            this,
-            QStringLiteral("Die Einstellungen konnten nicht aus der Registrierung gelesen werden: ") + error,
-            mtError, mbOK);
+            this, tr("Die Einstellungen konnten nicht aus der Registrierung gelesen werden: ") + error, mtError, mbOK);
         return;
     }
     const TMemIniFile ini(AppPaths::settingsFile());

@@ -46,7 +46,7 @@ TWizard::TWizard(TMaskDocument *mask, QWidget *parent)
     , m_mask(mask)
 {
     setObjectName(QStringLiteral("Wizard"));
-    setWindowTitle(QStringLiteral("Maskeneinstellungen"));
+    setWindowTitle(tr("Maskeneinstellungen"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     // A white band names the page, as setup wizards do.
@@ -83,10 +83,10 @@ TWizard::TWizard(TMaskDocument *mask, QWidget *parent)
         b->setAutoDefault(false);
         return b;
     };
-    BackBtn = button("BackBtn", QStringLiteral("Zurück"));
-    NextBtn = button("NextBtn", QStringLiteral("Weiter"));
+    BackBtn = button("BackBtn", tr("Zurück"));
+    NextBtn = button("NextBtn", tr("Weiter"));
     OKBtn = button("OKBtn", QStringLiteral("OK"));
-    AbbruchBtn = button("AbbruchBtn", QStringLiteral("Abbruch"));
+    AbbruchBtn = button("AbbruchBtn", tr("Abbruch"));
     connect(BackBtn, &QPushButton::clicked, this, &TWizard::BackBtnClick);
     connect(NextBtn, &QPushButton::clicked, this, &TWizard::NextBtnClick);
     connect(OKBtn, &QPushButton::clicked, this, &TWizard::OKBtnClick);
@@ -144,10 +144,10 @@ QLineEdit *TWizard::folderEdit(const QString &name, QLayout *row, void (TWizard:
     auto *browse = new QToolButton;
     browse->setObjectName(QStringLiteral("btn") + name);
     browse->setText(QStringLiteral("…"));
-    browse->setToolTip(QStringLiteral("Ordner auswählen"));
+    browse->setToolTip(tr("Ordner auswählen"));
     connect(browse, &QToolButton::clicked, this, [this, edit, exit] {
-        const QString folder = UserDialogs::instance().directoryDialog(
-            this, QStringLiteral("Bitte wählen Sie einen Ordner aus:"), edit->text());
+        const QString folder
+            = UserDialogs::instance().directoryDialog(this, tr("Bitte wählen Sie einen Ordner aus:"), edit->text());
         if (!folder.isEmpty()) {
             edit->setText(folder);
             (this->*exit)();
@@ -173,7 +173,7 @@ QComboBox *TWizard::fieldCombo(const QString &name, bool editable)
 QWidget *TWizard::createPage1()
 {
     QVBoxLayout *v = nullptr;
-    QWidget *page = newPage(QStringLiteral("Config-1"), QStringLiteral("Datenbank und Tabelle"), &v);
+    QWidget *page = newPage(QStringLiteral("Config-1"), tr("Datenbank und Tabelle"), &v);
     auto *pathRow = new QHBoxLayout;
     pathRow->setSpacing(2);
     Pfad = folderEdit(QStringLiteral("Pfad"), pathRow, &TWizard::PfadExit);
@@ -183,16 +183,16 @@ QWidget *TWizard::createPage1()
     Titel = new QLineEdit;
     Titel->setObjectName(QStringLiteral("Titel"));
     IndexFeld = fieldCombo(QStringLiteral("IndexFeld"), true);
-    v->addWidget(prompt(QStringLiteral("Geben Sie den Datenbankpfad an:"), Pfad));
+    v->addWidget(prompt(tr("Geben Sie den Datenbankpfad an:"), Pfad));
     v->addLayout(pathRow);
     v->addSpacing(8);
-    v->addWidget(prompt(QStringLiteral("Geben Sie den Tabellenname an:"), Name));
+    v->addWidget(prompt(tr("Geben Sie den Tabellenname an:"), Name));
     v->addWidget(Name);
     v->addSpacing(8);
-    v->addWidget(prompt(QStringLiteral("Geben Sie den Maskentitel an:"), Titel));
+    v->addWidget(prompt(tr("Geben Sie den Maskentitel an:"), Titel));
     v->addWidget(Titel);
     v->addSpacing(8);
-    v->addWidget(prompt(QStringLiteral("Geben Sie den Indexfeld an:"), IndexFeld));
+    v->addWidget(prompt(tr("Geben Sie den Indexfeld an:"), IndexFeld));
     v->addWidget(IndexFeld, 0, Qt::AlignLeft);
     v->addStretch();
     return page;
@@ -201,25 +201,25 @@ QWidget *TWizard::createPage1()
 QWidget *TWizard::createPage2()
 {
     QVBoxLayout *v = nullptr;
-    QWidget *page = newPage(QStringLiteral("Config-2"), QStringLiteral("Zeichnungen, Dateizähler und Fokus"), &v);
+    QWidget *page = newPage(QStringLiteral("Config-2"), tr("Zeichnungen, Dateizähler und Fokus"), &v);
     auto *pathRow = new QHBoxLayout;
     pathRow->setSpacing(2);
     CADPath = folderEdit(QStringLiteral("CADPath"), pathRow, &TWizard::CADPathExit);
     Zaehler = new QLineEdit;
     Zaehler->setObjectName(QStringLiteral("Zaehler"));
     Focus = fieldCombo(QStringLiteral("Focus"), true);
-    v->addWidget(prompt(QStringLiteral("Geben Sie den Zeichnungspfad an. In diesem Pfad werden später die Zeichnungen "
-                                       "bzw. Nc-Programme angelegt:"),
+    v->addWidget(prompt(tr("Geben Sie den Zeichnungspfad an. In diesem Pfad werden später die Zeichnungen "
+                           "bzw. Nc-Programme angelegt:"),
                         CADPath));
     v->addLayout(pathRow);
     v->addSpacing(8);
-    v->addWidget(prompt(QStringLiteral("Geben Sie ein Dateizaehler an (z.B. DATEI.NUM). Beim Anlegen werden dann "
-                                       "fortlaufende Nummer vergeben:"),
+    v->addWidget(prompt(tr("Geben Sie ein Dateizaehler an (z.B. DATEI.NUM). Beim Anlegen werden dann "
+                           "fortlaufende Nummer vergeben:"),
                         Zaehler));
     v->addWidget(Zaehler);
     v->addSpacing(8);
-    v->addWidget(prompt(QStringLiteral("Welcher Datenbankfeld soll beim Anlegen eines neuen Datensatztes den "
-                                       "Eingabefokus besitzen?"),
+    v->addWidget(prompt(tr("Welcher Datenbankfeld soll beim Anlegen eines neuen Datensatztes den "
+                           "Eingabefokus besitzen?"),
                         Focus));
     v->addWidget(Focus, 0, Qt::AlignLeft);
     v->addStretch();
@@ -229,7 +229,7 @@ QWidget *TWizard::createPage2()
 QWidget *TWizard::createPage3()
 {
     QVBoxLayout *v = nullptr;
-    QWidget *page = newPage(QStringLiteral("Config-3"), QStringLiteral("Felder aus dem Dateizähler"), &v);
+    QWidget *page = newPage(QStringLiteral("Config-3"), tr("Felder aus dem Dateizähler"), &v);
     SrcList = new TFieldListBox;
     SrcList->setObjectName(QStringLiteral("SrcList"));
     DstList = new TFieldListBox;
@@ -248,15 +248,15 @@ QWidget *TWizard::createPage3()
         const char *tip;
         void (TWizard::*click)();
     } buttons[] = {
-        {"IncludeBtn", ">", "Markierte Felder zuweisen", &TWizard::IncludeBtnClick},
-        {"IncAllBtn", ">>", "Alle Felder zuweisen", &TWizard::IncAllBtnClick},
-        {"ExcludeBtn", "<", "Markierte Felder entfernen", &TWizard::ExcludeBtnClick},
-        {"ExAllBtn", "<<", "Alle Felder entfernen", &TWizard::ExAllBtnClick},
+        {"IncludeBtn", ">", QT_TR_NOOP("Markierte Felder zuweisen"), &TWizard::IncludeBtnClick},
+        {"IncAllBtn", ">>", QT_TR_NOOP("Alle Felder zuweisen"), &TWizard::IncAllBtnClick},
+        {"ExcludeBtn", "<", QT_TR_NOOP("Markierte Felder entfernen"), &TWizard::ExcludeBtnClick},
+        {"ExAllBtn", "<<", QT_TR_NOOP("Alle Felder entfernen"), &TWizard::ExAllBtnClick},
     };
     for (const auto &b : buttons) {
         auto *button = new QPushButton(QLatin1String(b.text));
         button->setObjectName(QLatin1String(b.name));
-        button->setToolTip(QString::fromUtf8(b.tip));
+        button->setToolTip(tr(b.tip));
         button->setAutoDefault(false);
         button->setFixedWidth(40);
         connect(button, &QPushButton::clicked, this, b.click);
@@ -269,19 +269,19 @@ QWidget *TWizard::createPage3()
     Felder->setReadOnly(true);
 
     auto *grid = new QGridLayout;
-    grid->addWidget(prompt(QStringLiteral("Verfügbare Felder:"), SrcList), 0, 0);
-    grid->addWidget(prompt(QStringLiteral("Zugewiesene Felder:"), DstList), 0, 2);
+    grid->addWidget(prompt(tr("Verfügbare Felder:"), SrcList), 0, 0);
+    grid->addWidget(prompt(tr("Zugewiesene Felder:"), DstList), 0, 2);
     grid->addWidget(SrcList, 1, 0);
     grid->addLayout(column, 1, 1);
     grid->addWidget(DstList, 1, 2);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(2, 1);
     auto *felderRow = new QHBoxLayout;
-    felderRow->addWidget(prompt(QStringLiteral("Felder:"), Felder));
+    felderRow->addWidget(prompt(tr("Felder:"), Felder));
     felderRow->addWidget(Felder, 1);
 
-    v->addWidget(prompt(QStringLiteral("Welche Felder sollen beim Anlegen, automatisch mit der Nummer aus dem "
-                                       "Dateizähler ausgefüllt werden?")));
+    v->addWidget(prompt(tr("Welche Felder sollen beim Anlegen, automatisch mit der Nummer aus dem "
+                           "Dateizähler ausgefüllt werden?")));
     v->addSpacing(4);
     v->addLayout(grid, 1);
     v->addLayout(felderRow);
@@ -301,14 +301,14 @@ QWidget *TWizard::createValuePage(const QString &name, const QString &title, con
     (*value)->setCurrentIndex(-1);
 
     auto *side = new QVBoxLayout;
-    side->addWidget(prompt(QStringLiteral("Datenbankfeld:"), *field));
+    side->addWidget(prompt(tr("Datenbankfeld:"), *field));
     side->addWidget(*field);
     side->addSpacing(8);
-    side->addWidget(prompt(QStringLiteral("Wert:"), *value));
+    side->addWidget(prompt(tr("Wert:"), *value));
     side->addWidget(*value);
     side->addSpacing(8);
-    auto *hint = prompt(QStringLiteral("Ein Eintrag entsteht, sobald Feld und Wert gewählt sind. "
-                                       "Entfernen: Rechtsklick auf den Eintrag, \"Eintrag löschen\"."));
+    auto *hint = prompt(tr("Ein Eintrag entsteht, sobald Feld und Wert gewählt sind. "
+                           "Entfernen: Rechtsklick auf den Eintrag, \"Eintrag löschen\"."));
     hint->setForegroundRole(QPalette::PlaceholderText);
     side->addWidget(hint);
     side->addStretch();
@@ -329,10 +329,10 @@ QWidget *TWizard::createValuePage(const QString &name, const QString &title, con
 QWidget *TWizard::createPage4()
 {
     QWidget *page = createValuePage(
-        QStringLiteral("Config-4"), QStringLiteral("AutoFill Werte"),
-        QStringLiteral("Beim Anlegen können Sie den Feldern ein Standardwert zuweisen. Entweder durch einen Festen "
-                       "Wert oder durch ein Makro."),
-        QStringLiteral("AutoFill Werte:"), &AutoFill, &AutoFillFeld, &AutofillWert);
+        QStringLiteral("Config-4"), tr("AutoFill Werte"),
+        tr("Beim Anlegen können Sie den Feldern ein Standardwert zuweisen. Entweder durch einen Festen "
+           "Wert oder durch ein Makro."),
+        tr("AutoFill Werte:"), &AutoFill, &AutoFillFeld, &AutofillWert);
     AutoFill->setObjectName(QStringLiteral("AutoFill"));
     AutoFillFeld->setObjectName(QStringLiteral("AutoFillFeld"));
     AutofillWert->setObjectName(QStringLiteral("AutofillWert"));
@@ -345,10 +345,10 @@ QWidget *TWizard::createPage4()
 QWidget *TWizard::createPage5()
 {
     QWidget *page = createValuePage(
-        QStringLiteral("Config-5"), QStringLiteral("Default Werte"),
-        QStringLiteral("Beim ausfüllen bzw. editieren eines Datensatzes, können Felder mit festen Werten versehen "
-                       "werden."),
-        QStringLiteral("Default Werte:"), &Default, &DefaultFeld, &Defaultwert);
+        QStringLiteral("Config-5"), tr("Default Werte"),
+        tr("Beim ausfüllen bzw. editieren eines Datensatzes, können Felder mit festen Werten versehen "
+           "werden."),
+        tr("Default Werte:"), &Default, &DefaultFeld, &Defaultwert);
     Default->setObjectName(QStringLiteral("Default"));
     DefaultFeld->setObjectName(QStringLiteral("DefaultFeld"));
     Defaultwert->setObjectName(QStringLiteral("Defaultwert"));
@@ -436,7 +436,7 @@ void TWizard::SetButtons()
     // Everything after the first page belongs to a table, so it needs a name.
     NextBtn->setEnabled(page < kPageCount - 1 && !Name->text().trimmed().isEmpty());
     m_pageTitle->setText(PageBook->currentWidget()->property("title").toString());
-    m_pageNumber->setText(QStringLiteral("Seite %1 von %2").arg(page + 1).arg(kPageCount));
+    m_pageNumber->setText(tr("Seite %1 von %2").arg(page + 1).arg(kPageCount));
 }
 
 void TWizard::BackBtnClick()

@@ -167,7 +167,7 @@ void TWizard::wireValueList(QListWidget *list)
 {
     auto *menu = new QMenu(list);
     menu->setObjectName(QStringLiteral("PopupMenu"));
-    QAction *remove = menu->addAction(QStringLiteral("Eintrag löschen"));
+    QAction *remove = menu->addAction(tr("Eintrag löschen"));
     remove->setObjectName(QStringLiteral("EintragLoeschen"));
     remove->setShortcut(QKeySequence::Delete);
     remove->setShortcutContext(Qt::WidgetShortcut);

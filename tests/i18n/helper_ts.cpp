@@ -12,6 +12,25 @@ QString TsMessage::describe() const
     return context + QStringLiteral(": \"") + text + QLatin1Char('"');
 }
 
+namespace {
+// An element's text; lupdate writes characters XML cannot hold (a carriage
+// return) as <byte value="xd"/> inside it.
+QString readText(QXmlStreamReader &xml)
+{
+    QString text;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (xml.isCharacters())
+            text += xml.text();
+        else if (xml.isStartElement() && xml.name() == QLatin1String("byte"))
+            text += QChar(xml.attributes().value(QLatin1String("value")).mid(1).toUInt(nullptr, 16));
+        else if (xml.isEndElement() && xml.name() != QLatin1String("byte"))
+            break;
+    }
+    return text;
+}
+} // namespace
+
 bool readTsFile(const QString &path, TsFile *file, QString *error)
 {
     QFile in(path);
@@ -39,15 +58,15 @@ bool readTsFile(const QString &path, TsFile *file, QString *error)
                 message.context = context;
                 message.numerus = xml.attributes().value(QLatin1String("numerus")) == QLatin1String("yes");
             } else if (name == QLatin1String("source")) {
-                message.source = xml.readElementText();
+                message.source = readText(xml);
             } else if (name == QLatin1String("comment")) {
                 message.comment = xml.readElementText();
             } else if (name == QLatin1String("translation")) {
                 message.type = xml.attributes().value(QLatin1String("type")).toString();
                 if (!message.numerus)
-                    message.translation = xml.readElementText();
+                    message.translation = readText(xml);
             } else if (name == QLatin1String("numerusform")) {
-                message.numerusForms.append(xml.readElementText());
+                message.numerusForms.append(readText(xml));
             }
         } else if (xml.isEndElement() && xml.name() == QLatin1String("message")) {
             file->messages.append(message);
