@@ -111,6 +111,13 @@ S = Byte</translation>
     </message>
 </context>
 <context>
+    <name>PickLists</name>
+    <message>
+        <source>Der Eintrag „%1“ kann nicht in die Auswahlliste übernommen werden: Ein Eintrag darf kein „=“ enthalten und nicht in eckigen Klammern stehen.</source>
+        <translation>The entry “%1” cannot be taken into the pick list: an entry must not contain “=” nor stand in square brackets.</translation>
+    </message>
+</context>
+<context>
     <name>Profile</name>
     <message>
         <source>Ein Eintrag ohne Schlüsselnamen kann nicht geschrieben werden.</source>
@@ -126,6 +133,145 @@ S = Byte</translation>
     <message>
         <source>Wert „%1“ ist %2.</source>
         <translation>Value “%1” is %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Streaming</name>
+    <message>
+        <source>Kein Komponentenstrom: Kennung „TPF0“ fehlt</source>
+        <translation>No component stream: the signature “TPF0” is missing</translation>
+    </message>
+    <message>
+        <source>Komponentenstrom beschädigt (Byte %1): %2</source>
+        <translation>Component stream damaged (byte %1): %2</translation>
+    </message>
+    <message>
+        <source>Daten enden unerwartet</source>
+        <translation>data end unexpectedly</translation>
+    </message>
+    <message>
+        <source>Länge %1 über das Ende hinaus</source>
+        <translation>length %1 beyond the end</translation>
+    </message>
+    <message>
+        <source>leerer Bezeichner</source>
+        <translation>empty identifier</translation>
+    </message>
+    <message>
+        <source>zu viele Elemente</source>
+        <translation>too many elements</translation>
+    </message>
+    <message>
+        <source>zu tief verschachtelt</source>
+        <translation>nested too deeply</translation>
+    </message>
+    <message>
+        <source>unbekannter Werttyp %1</source>
+        <translation>unknown value type %1</translation>
+    </message>
+    <message>
+        <source>zu viele Komponenten</source>
+        <translation>too many components</translation>
+    </message>
+    <message>
+        <source>Klassenname fehlt</source>
+        <translation>class name missing</translation>
+    </message>
+    <message>
+        <source>zu viele Eigenschaften</source>
+        <translation>too many properties</translation>
+    </message>
+    <message>
+        <source>Unbekannte Klasse „%1“</source>
+        <translation>Unknown class “%1”</translation>
+    </message>
+    <message>
+        <source>Ungültiger Wert für Eigenschaft „%1“ in %2</source>
+        <translation>Invalid value for property “%1” in %2</translation>
+    </message>
+    <message>
+        <source>Unbekannte Eigenschaft „%1“ in %2</source>
+        <translation>Unknown property “%1” in %2</translation>
+    </message>
+    <message>
+        <source>Keine Komponente zum Einlesen</source>
+        <translation>No component to read into</translation>
+    </message>
+    <message>
+        <source>Klasse „%1“ im Datenstrom passt nicht zu „%2“</source>
+        <translation>Class “%1” in the stream does not match “%2”</translation>
+    </message>
+    <message>
+        <source>Keine Komponente</source>
+        <translation>No component</translation>
+    </message>
+    <message>
+        <source>Kein Komponentenstrom: „object“ fehlt</source>
+        <translation>No component stream: “object” is missing</translation>
+    </message>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Line %1: %2</translation>
+    </message>
+    <message>
+        <source>Bezeichner erwartet</source>
+        <translation>identifier expected</translation>
+    </message>
+    <message>
+        <source>Zeichenkette nicht abgeschlossen</source>
+        <translation>string not terminated</translation>
+    </message>
+    <message>
+        <source>Zeilenumbruch in einer Zeichenkette</source>
+        <translation>line break in a string</translation>
+    </message>
+    <message>
+        <source>ungültiger Zeichencode</source>
+        <translation>invalid character code</translation>
+    </message>
+    <message>
+        <source>Zeichencode erwartet</source>
+        <translation>character code expected</translation>
+    </message>
+    <message>
+        <source>Zahl zu groß</source>
+        <translation>number too large</translation>
+    </message>
+    <message>
+        <source>ungültige Zahl</source>
+        <translation>invalid number</translation>
+    </message>
+    <message>
+        <source>„,“ oder „]“ erwartet</source>
+        <translation>“,” or “]” expected</translation>
+    </message>
+    <message>
+        <source>„)“ fehlt</source>
+        <translation>“)” missing</translation>
+    </message>
+    <message>
+        <source>Wert erwartet</source>
+        <translation>value expected</translation>
+    </message>
+    <message>
+        <source>„=“ erwartet</source>
+        <translation>“=” expected</translation>
+    </message>
+    <message>
+        <source>Name erwartet</source>
+        <translation>name expected</translation>
+    </message>
+    <message>
+        <source>„end“ fehlt</source>
+        <translation>“end” missing</translation>
+    </message>
+    <message>
+        <source>Kein Komponentenstrom: weder „TPF0“ noch „object“ am Anfang</source>
+        <translation>No component stream: neither “TPF0” nor “object” at the start</translation>
+    </message>
+    <message>
+        <source>Kein Komponentenstrom: keine Daten</source>
+        <translation>No component stream: no data</translation>
     </message>
 </context>
 <context>

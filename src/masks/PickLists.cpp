@@ -2,6 +2,8 @@
 
 #include "IniFileAccess.h"
 
+#include <QCoreApplication>
+
 namespace PickLists {
 
 bool holds(const QString &item)
@@ -22,8 +24,10 @@ QString refusal(const QStringList &items)
 {
     for (const QString &item : items) {
         if (!holds(item))
-            return QStringLiteral("Der Eintrag „%1“ kann nicht in die Auswahlliste übernommen werden: Ein Eintrag "
-                                  "darf kein „=“ enthalten und nicht in eckigen Klammern stehen.")
+            return QCoreApplication::translate(
+                       "PickLists",
+                       "Der Eintrag „%1“ kann nicht in die Auswahlliste übernommen werden: Ein Eintrag "
+                       "darf kein „=“ enthalten und nicht in eckigen Klammern stehen.")
                 .arg(IniFileAccess::singleLine(item));
     }
     return QString();

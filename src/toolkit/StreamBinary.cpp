@@ -2,6 +2,7 @@
 // properties (name + tagged value) up to a 0 byte, children up to a 0 byte.
 #include "StreamTree.h"
 
+#include <QCoreApplication>
 #include <cstring>
 
 namespace StreamTree {
@@ -134,14 +135,16 @@ public:
     {
         ParseResult r;
         if (!startsBinary(m_data, m_pos)) {
-            r.error = QStringLiteral("Kein Komponentenstrom: Kennung „TPF0“ fehlt");
+            r.error = QCoreApplication::translate("Streaming", "Kein Komponentenstrom: Kennung „TPF0“ fehlt");
             return r;
         }
         m_pos += 4;
         r.ok = node(out, 0);
         r.end = m_pos;
         if (!r.ok)
-            r.error = QStringLiteral("Komponentenstrom beschädigt (Byte %1): %2").arg(m_errorPos).arg(m_error);
+            r.error = QCoreApplication::translate("Streaming", "Komponentenstrom beschädigt (Byte %1): %2")
+                          .arg(m_errorPos)
+                          .arg(m_error);
         return r;
     }
 
@@ -158,7 +161,7 @@ private:
     bool need(qsizetype n)
     {
         if (n < 0 || m_data.size() - m_pos < n)
-            return fail(QStringLiteral("Daten enden unerwartet"));
+            return fail(QCoreApplication::translate("Streaming", "Daten enden unerwartet"));
         return true;
     }
 
@@ -206,7 +209,7 @@ private:
         if (!integer(4, len))
             return false;
         if (qint64(len) > qint64(m_data.size() - m_pos))
-            return fail(QStringLiteral("Länge %1 über das Ende hinaus").arg(len));
+            return fail(QCoreApplication::translate("Streaming", "Länge %1 über das Ende hinaus").arg(len));
         return bytes(qsizetype(len), out);
     }
 
@@ -259,7 +262,7 @@ private:
             if (!shortString(ident))
                 return false;
             if (ident.isEmpty())
-                return fail(QStringLiteral("leerer Bezeichner"));
+                return fail(QCoreApplication::translate("Streaming", "leerer Bezeichner"));
             v = Value::fromIdent(ident);
             return true;
         }
@@ -272,7 +275,7 @@ private:
                 if (name.isEmpty())
                     break;
                 if (names.size() >= kMaxItems)
-                    return fail(QStringLiteral("zu viele Elemente"));
+                    return fail(QCoreApplication::translate("Streaming", "zu viele Elemente"));
                 names << name;
             }
             v = Value::fromSet(names);
@@ -280,7 +283,7 @@ private:
         }
         case vaList: {
             if (depth >= kMaxDepth)
-                return fail(QStringLiteral("zu tief verschachtelt"));
+                return fail(QCoreApplication::translate("Streaming", "zu tief verschachtelt"));
             QList<Value> items;
             for (;;) {
                 if (!need(1))
@@ -290,7 +293,7 @@ private:
                     break;
                 }
                 if (items.size() >= kMaxItems)
-                    return fail(QStringLiteral("zu viele Elemente"));
+                    return fail(QCoreApplication::translate("Streaming", "zu viele Elemente"));
                 Value item;
                 if (!value(item, depth + 1))
                     return false;
@@ -301,20 +304,20 @@ private:
         }
         default:
             --m_pos;
-            return fail(QStringLiteral("unbekannter Werttyp %1").arg(tag));
+            return fail(QCoreApplication::translate("Streaming", "unbekannter Werttyp %1").arg(tag));
         }
     }
 
     bool node(Node &n, int depth)
     {
         if (depth >= kMaxDepth)
-            return fail(QStringLiteral("zu tief verschachtelt"));
+            return fail(QCoreApplication::translate("Streaming", "zu tief verschachtelt"));
         if (++m_objects > kMaxObjects)
-            return fail(QStringLiteral("zu viele Komponenten"));
+            return fail(QCoreApplication::translate("Streaming", "zu viele Komponenten"));
         if (!shortString(n.className))
             return false;
         if (n.className.isEmpty())
-            return fail(QStringLiteral("Klassenname fehlt"));
+            return fail(QCoreApplication::translate("Streaming", "Klassenname fehlt"));
         if (!shortString(n.name))
             return false;
         for (;;) {
@@ -324,7 +327,7 @@ private:
             if (p.name.isEmpty())
                 break;
             if (n.properties.size() >= kMaxItems)
-                return fail(QStringLiteral("zu viele Eigenschaften"));
+                return fail(QCoreApplication::translate("Streaming", "zu viele Eigenschaften"));
             if (!value(p.value, depth + 1))
                 return false;
             n.properties << std::move(p);

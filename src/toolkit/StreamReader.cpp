@@ -2,6 +2,7 @@
 // and undoing all of it when the stream cannot be read to the end.
 #include "Streaming.h"
 
+#include <QCoreApplication>
 #include <QIODevice>
 #include <QPointer>
 #include <QSet>
@@ -168,7 +169,7 @@ public:
     bool checkClasses(const Node &n, bool self = true)
     {
         if (self && !ControlClasses::find(n.className)) {
-            const QString message = QStringLiteral("Unbekannte Klasse „%1“").arg(n.className);
+            const QString message = QCoreApplication::translate("Streaming", "Unbekannte Klasse „%1“").arg(n.className);
             if (!handle(message, false))
                 return fail(message);
             m_skipped.insert(&n);
@@ -188,7 +189,7 @@ public:
             return nullptr;
         QWidget *w = ControlClasses::create(n.className);
         if (!w) {
-            fail(QStringLiteral("Unbekannte Klasse „%1“").arg(n.className));
+            fail(QCoreApplication::translate("Streaming", "Unbekannte Klasse „%1“").arg(n.className));
             return nullptr;
         }
         m_created << w;
@@ -261,15 +262,18 @@ public:
                     if (fontParts == (1 << fpCount) - 1)
                         flushFont();
                 } else {
-                    problem = QStringLiteral("Ungültiger Wert für Eigenschaft „%1“ in %2").arg(p.name, describe(w));
+                    problem = QCoreApplication::translate("Streaming", "Ungültiger Wert für Eigenschaft „%1“ in %2")
+                                  .arg(p.name, describe(w));
                 }
             } else if (const TPropInfo *target = direct ? direct : listOf) {
                 if (const auto v = toVariant(*target, p.value))
                     target->write(w, *v);
                 else
-                    problem = QStringLiteral("Ungültiger Wert für Eigenschaft „%1“ in %2").arg(p.name, describe(w));
+                    problem = QCoreApplication::translate("Streaming", "Ungültiger Wert für Eigenschaft „%1“ in %2")
+                                  .arg(p.name, describe(w));
             } else {
-                problem = QStringLiteral("Unbekannte Eigenschaft „%1“ in %2").arg(p.name, describe(w));
+                problem = QCoreApplication::translate("Streaming", "Unbekannte Eigenschaft „%1“ in %2")
+                              .arg(p.name, describe(w));
             }
             if (!problem.isEmpty() && !handle(problem, true))
                 return fail(problem);
@@ -424,7 +428,7 @@ QWidget *readComponent(QIODevice &in, const TReadContext &ctx, QString *error)
         return nullptr;
     }
     if (loader.isSkipped(node)) {
-        setError(error, QStringLiteral("Unbekannte Klasse „%1“").arg(node.className));
+        setError(error, QCoreApplication::translate("Streaming", "Unbekannte Klasse „%1“").arg(node.className));
         return nullptr;
     }
     QWidget *top = loader.create(node, ctx.parent);
@@ -467,7 +471,7 @@ QList<QWidget *> readComponents(QIODevice &in, const TReadContext &ctx, QString 
 bool readInto(QIODevice &in, QWidget *component, const TReadContext &ctx, QString *error)
 {
     if (!component) {
-        setError(error, QStringLiteral("Keine Komponente zum Einlesen"));
+        setError(error, QCoreApplication::translate("Streaming", "Keine Komponente zum Einlesen"));
         return false;
     }
     Node node;
@@ -475,8 +479,9 @@ bool readInto(QIODevice &in, QWidget *component, const TReadContext &ctx, QStrin
         return false;
     if (const TControl *c = TControl::from(component);
         c && c->classInfo().className.compare(node.className, Qt::CaseInsensitive) != 0) {
-        setError(error, QStringLiteral("Klasse „%1“ im Datenstrom passt nicht zu „%2“")
-                            .arg(node.className, c->classInfo().className));
+        setError(error,
+                 QCoreApplication::translate("Streaming", "Klasse „%1“ im Datenstrom passt nicht zu „%2“")
+                     .arg(node.className, c->classInfo().className));
         return false;
     }
     QObject *owner = ctx.owner ? ctx.owner : Components::owner(component);
@@ -505,7 +510,7 @@ bool readInto(QIODevice &in, QWidget *component, const TReadContext &ctx, QStrin
 bool setComponentPropertiesText(QWidget *component, const QString &text, QString *error)
 {
     if (!component) {
-        setError(error, QStringLiteral("Keine Komponente"));
+        setError(error, QCoreApplication::translate("Streaming", "Keine Komponente"));
         return false;
     }
     QList<Property> properties;

@@ -4,6 +4,8 @@
 // text is plain ASCII apart from names, and a line break never sits in a string.
 #include "StreamTree.h"
 
+#include <QCoreApplication>
+
 namespace StreamTree {
 
 namespace {
@@ -158,7 +160,7 @@ public:
         ParseResult r;
         skipBlanks();
         if (!keyword("object")) {
-            r.error = QStringLiteral("Kein Komponentenstrom: „object“ fehlt");
+            r.error = QCoreApplication::translate("Streaming", "Kein Komponentenstrom: „object“ fehlt");
             return r;
         }
         r.ok = node(out, 0);
@@ -246,7 +248,7 @@ private:
     {
         const qsizetype upTo = std::min(m_errorPos, m_data.size());
         const qsizetype line = QByteArrayView(m_data.constData(), upTo).count('\n') + 1;
-        return QStringLiteral("Zeile %1: %2").arg(line).arg(m_error);
+        return QCoreApplication::translate("Streaming", "Zeile %1: %2").arg(line).arg(m_error);
     }
 
     // The identifier at the read position, not consumed.
@@ -275,7 +277,7 @@ private:
             return string(out);
         QByteArray word = peekWord();
         if (word.isEmpty())
-            return fail(QStringLiteral("Bezeichner erwartet"));
+            return fail(QCoreApplication::translate("Streaming", "Bezeichner erwartet"));
         m_pos += word.size();
         while (dotted && peek() == '.' && isIdentStart(peek(1))) {
             ++m_pos;
@@ -294,10 +296,10 @@ private:
             QByteArray run;
             for (;;) {
                 if (atEnd())
-                    return fail(QStringLiteral("Zeichenkette nicht abgeschlossen"));
+                    return fail(QCoreApplication::translate("Streaming", "Zeichenkette nicht abgeschlossen"));
                 const uchar c = peek();
                 if (c == '\r' || c == '\n')
-                    return fail(QStringLiteral("Zeilenumbruch in einer Zeichenkette"));
+                    return fail(QCoreApplication::translate("Streaming", "Zeilenumbruch in einer Zeichenkette"));
                 ++m_pos;
                 if (c == '\'') {
                     if (peek() != '\'')
@@ -315,8 +317,8 @@ private:
         if (hex)
             ++m_pos;
         quint64 code = 0;
-        if (!number(hex, 0x10FFFF, QStringLiteral("ungültiger Zeichencode"), QStringLiteral("Zeichencode erwartet"),
-                    code))
+        if (!number(hex, 0x10FFFF, QCoreApplication::translate("Streaming", "ungültiger Zeichencode"),
+                    QCoreApplication::translate("Streaming", "Zeichencode erwartet"), code))
             return false;
         if (code > 0xFFFF) {
             out += QChar(QChar::highSurrogate(char32_t(code)));
@@ -366,13 +368,14 @@ private:
         if (hex)
             ++m_pos;
         quint64 n = 0;
-        if (!number(hex, 0xFFFFFFFFull, QStringLiteral("Zahl zu groß"), QStringLiteral("Zahl erwartet"), n))
+        if (!number(hex, 0xFFFFFFFFull, QCoreApplication::translate("Streaming", "Zahl zu groß"),
+                    QStringLiteral("Zahl erwartet"), n))
             return false;
         if (isIdentChar(peek()))
-            return fail(QStringLiteral("ungültige Zahl"));
+            return fail(QCoreApplication::translate("Streaming", "ungültige Zahl"));
         // Hex wraps into the sign as colours are written; decimal must fit.
         if (!hex && n > (negative ? 0x80000000ull : 0x7FFFFFFFull))
-            return fail(QStringLiteral("Zahl zu groß"));
+            return fail(QCoreApplication::translate("Streaming", "Zahl zu groß"));
         const qint64 value = negative ? -qint64(n) : qint64(n);
         v = Value::fromInt(hex ? qint32(quint32(value)) : qint32(value));
         return true;
@@ -405,7 +408,7 @@ private:
                 if (!nameToken(name, false))
                     return false;
                 if (names.size() >= kMaxItems)
-                    return fail(QStringLiteral("zu viele Elemente"));
+                    return fail(QCoreApplication::translate("Streaming", "zu viele Elemente"));
                 names << name;
                 skipBlanks();
                 if (peek() == ',') {
@@ -416,26 +419,26 @@ private:
                     ++m_pos;
                     break;
                 }
-                return fail(QStringLiteral("„,“ oder „]“ erwartet"));
+                return fail(QCoreApplication::translate("Streaming", "„,“ oder „]“ erwartet"));
             }
             v = Value::fromSet(names);
             return true;
         }
         if (c == '(') {
             if (depth >= kMaxDepth)
-                return fail(QStringLiteral("zu tief verschachtelt"));
+                return fail(QCoreApplication::translate("Streaming", "zu tief verschachtelt"));
             ++m_pos;
             QList<Value> items;
             for (;;) {
                 skipBlanks();
                 if (atEnd())
-                    return fail(QStringLiteral("„)“ fehlt"));
+                    return fail(QCoreApplication::translate("Streaming", "„)“ fehlt"));
                 if (peek() == ')') {
                     ++m_pos;
                     break;
                 }
                 if (items.size() >= kMaxItems)
-                    return fail(QStringLiteral("zu viele Elemente"));
+                    return fail(QCoreApplication::translate("Streaming", "zu viele Elemente"));
                 Value item;
                 if (!value(item, depth + 1))
                     return false;
@@ -455,7 +458,7 @@ private:
                 v = Value::fromIdent(QString::fromUtf8(word));
             return true;
         }
-        return fail(QStringLiteral("Wert erwartet"));
+        return fail(QCoreApplication::translate("Streaming", "Wert erwartet"));
     }
 
     bool property(Property &p, int depth)
@@ -464,7 +467,7 @@ private:
             return false;
         skipBlanks();
         if (peek() != '=')
-            return fail(QStringLiteral("„=“ erwartet"));
+            return fail(QCoreApplication::translate("Streaming", "„=“ erwartet"));
         ++m_pos;
         skipBlanks();
         return value(p.value, depth + 1);
@@ -474,11 +477,11 @@ private:
     bool node(Node &n, int depth)
     {
         if (depth >= kMaxDepth)
-            return fail(QStringLiteral("zu tief verschachtelt"));
+            return fail(QCoreApplication::translate("Streaming", "zu tief verschachtelt"));
         if (++m_objects > kMaxObjects)
-            return fail(QStringLiteral("zu viele Komponenten"));
+            return fail(QCoreApplication::translate("Streaming", "zu viele Komponenten"));
         if (!isBlank(peek()))
-            return fail(QStringLiteral("Name erwartet"));
+            return fail(QCoreApplication::translate("Streaming", "Name erwartet"));
         skipBlanks();
         QString first;
         if (!nameToken(first, false))
@@ -496,11 +499,11 @@ private:
             n.className = first;
         }
         if (n.className.isEmpty())
-            return fail(QStringLiteral("Klassenname fehlt"));
+            return fail(QCoreApplication::translate("Streaming", "Klassenname fehlt"));
         for (;;) {
             skipBlanks();
             if (atEnd())
-                return fail(QStringLiteral("„end“ fehlt"));
+                return fail(QCoreApplication::translate("Streaming", "„end“ fehlt"));
             // A word followed by "=" is a property, even one named like a keyword.
             const QByteArray word = peekWord();
             qsizetype look = m_pos + word.size();
@@ -522,7 +525,7 @@ private:
                 }
             }
             if (n.properties.size() >= kMaxItems)
-                return fail(QStringLiteral("zu viele Eigenschaften"));
+                return fail(QCoreApplication::translate("Streaming", "zu viele Eigenschaften"));
             Property p;
             if (!property(p, depth))
                 return false;
@@ -589,7 +592,7 @@ ParseResult parseAny(const QByteArray &data, qsizetype pos, Node &out)
         return parseText(data, pos, out);
     ParseResult r;
     r.end = pos;
-    r.error = QStringLiteral("Kein Komponentenstrom: weder „TPF0“ noch „object“ am Anfang");
+    r.error = QCoreApplication::translate("Streaming", "Kein Komponentenstrom: weder „TPF0“ noch „object“ am Anfang");
     return r;
 }
 
@@ -611,7 +614,7 @@ ParseResult parseAll(const QByteArray &data, QList<Node> &out)
         pos = one.end;
     }
     if (out.isEmpty()) {
-        r.error = QStringLiteral("Kein Komponentenstrom: keine Daten");
+        r.error = QCoreApplication::translate("Streaming", "Kein Komponentenstrom: keine Daten");
         return r;
     }
     r.ok = true;
