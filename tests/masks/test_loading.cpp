@@ -21,72 +21,11 @@ class TestLoading : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void missingKeysTakeTheirDefaults();
     void parentsResolveByName();
     void tabOrdersAndTheSortSection();
     void headerAndTableSettings();
     void oddFilesNeverBreakTheLoad();
 };
-
-void TestLoading::missingKeysTakeTheirDefaults()
-{
-    Fixture home;
-    const QString file = home.path(QStringLiteral("leer.dbm"));
-    writeMask(file, QStringLiteral("[Label_1]\n[Field_1]\n[CField_1]\n[LField_1]\n[Memo_1]\n[CheckBox_1]\n"
-                                   "[Panel_1]\n[PageControl_1]\n[Button_1]\n[DBBrowser_1]\n[DBTreeList_1]\n"
-                                   "[DBRadioGroup_1]\n[DBLabel_1]\n"));
-    TMaskDocument *mask = home.load(file);
-    QCOMPARE(mask->Titel(), QStringLiteral("Maske"));
-    QCOMPARE(mask->cxStyleController()->BorderStyle(), ebs3D);
-    QCOMPARE(mask->cxStyleController()->Edges(), kAllEdges);
-
-    auto *label = component<TLabel>(mask, "Label1");
-    QCOMPARE(label->Caption(), QStringLiteral("ERROR"));
-    QCOMPARE(label->geometry(), QRect(0, 0, 40, 20));
-    QCOMPARE(label->Font().Name, QStringLiteral("Arial"));
-    QCOMPARE(label->Font().Size, 10);
-    QCOMPARE(label->Font().Color, TColor(0));
-    QVERIFY(label->WordWrap());
-    QCOMPARE(label->Alignment(), taRightJustify);
-    QCOMPARE(component<TDBLabel>(mask, "DBLabel1")->Hint(), QStringLiteral("1"));
-
-    auto *edit = component<TcxTextEdit>(mask, "cxTextEdit1");
-    QCOMPARE(edit->Text(), QStringLiteral("ERROR"));
-    QCOMPARE(edit->Color(), Colors::clWindow);
-    QVERIFY(!edit->ReadOnly());
-    QVERIFY(!edit->TabStop());
-    // Unlike every other kind, a combo box without the key is read-only.
-    QVERIFY(component<TcxComboBox>(mask, "cxComboBox1")->ReadOnly());
-    QVERIFY(!component<TcxDBPopupEdit>(mask, "cxDBPopupEdit1")->ReadOnly());
-    QCOMPARE(component<TcxDBPopupEdit>(mask, "cxDBPopupEdit1")->EditMask(), QStringLiteral("ERROR"));
-    auto *check = component<TcxDBCheckBox>(mask, "cxDBCheckBox1");
-    QCOMPARE(check->ValueChecked(), QStringLiteral("Ja"));
-    QCOMPARE(check->ValueUnchecked(), QStringLiteral("Nein"));
-
-    auto *panel = component<TPanel>(mask, "Panel1");
-    QCOMPARE(panel->BevelWidth(), 1);
-    QVERIFY(panel->Ctl3D());
-    QCOMPARE(panel->Align(), alTop); // the align mode defaults to 1
-    auto *pager = component<TAdvOfficePager>(mask, "AdvOfficePager1");
-    QCOMPARE(mask->OfficePagerStyle(), 6);
-    QCOMPARE(pager->Align(), alTop);
-    QCOMPARE(pager->Font().Name, QStringLiteral("Tahoma"));
-
-    auto *button = component<TMaskBtn>(mask, "MaskBtn1");
-    QCOMPARE(button->RegelFarbe(), QStringLiteral("clRed"));
-    QCOMPARE(button->Margin(), -1);
-    QCOMPARE(component<TDBGrid>(mask, "DBGrid1")->Tag(), 3);
-    auto *tree = component<TcxDBTreeList>(mask, "cxDBTreeList1");
-    QCOMPARE(tree->KeyField(), QStringLiteral("QXID"));
-    QCOMPARE(tree->ParentField(), QStringLiteral("QXParent"));
-    auto *radio = component<TDBRadioGroup>(mask, "DBRadioGroup1");
-    QCOMPARE(radio->Tag(), 10);
-    QCOMPARE(radio->Columns(), 1);
-
-    // No View section: neither preview nor tab strip.
-    QVERIFY(!Components::findComponent(mask, QStringLiteral("View")));
-    QVERIFY(!Components::findComponent(mask, QStringLiteral("Tab")));
-}
 
 void TestLoading::parentsResolveByName()
 {

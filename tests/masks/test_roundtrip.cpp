@@ -15,9 +15,9 @@
 using namespace MaskTest;
 
 namespace {
-QString dataFile(const char *name)
+QString dataFile(const QString &name)
 {
-    return QStringLiteral(FEROLITH_SOURCE_DIR "/tests/masks/data/") + QLatin1String(name);
+    return QStringLiteral(FEROLITH_SOURCE_DIR "/tests/masks/data/") + name;
 }
 
 QStringList fileLines(const QString &path)
@@ -135,11 +135,16 @@ void TestRoundtrip::aDesignedMaskSettlesAfterOneLoad()
 // the name and at the place the format gives it.
 void TestRoundtrip::everyKeyOfEveryKind()
 {
+    // Every key of every kind with a value of its own; and every kind with
+    // no keys at all, which shows the default of each.
     Fixture home;
-    TMaskDocument *mask = home.load(dataFile("alle.dbm"));
-    const QString out = home.path(QStringLiteral("alle.dbm"));
-    QVERIFY(MaskWriter::SaveMask(*mask, out));
-    QCOMPARE(fileLines(out), fileLines(dataFile("alle.gespeichert.dbm")));
+    for (const QString &name : {QStringLiteral("leer"), QStringLiteral("alle")}) {
+        TMaskDocument *read = home.load(dataFile(name + QStringLiteral(".dbm")));
+        const QString out = home.path(name + QStringLiteral(".dbm"));
+        QVERIFY(MaskWriter::SaveMask(*read, out));
+        QCOMPARE(fileLines(out), fileLines(dataFile(name + QStringLiteral(".gespeichert.dbm"))));
+    }
+    TMaskDocument *mask = home.load(dataFile(QStringLiteral("alle.dbm")));
 
     // What a plain round trip cannot tell: where the values went.
     QCOMPARE(controlClasses(mask).mid(0, 5), QStringList({"TAdvOfficePager", "TAdvOfficePage", "TAdvOfficePage",
