@@ -190,15 +190,7 @@ void TestLoading::oddFilesNeverBreakTheLoad()
     mask = home.load(huge);
     QCOMPARE(controlClasses(mask), QStringList({"TImageAspect", "TImageAspect"}));
 
-    // Binary garbage and a missing file give masks with every default.
-    const QString garbage = home.path(QStringLiteral("garbage.dbm"));
-    QByteArray bytes;
-    for (int i = 0; i < 200000; ++i)
-        bytes.append(char((i * 7919) % 256));
-    bytes.append("\n[Label_1]\nName=\0\x01\xff\n", 20);
-    QVERIFY(writeFileBytes(garbage, bytes));
-    mask = home.load(garbage);
-    QVERIFY(mask);
+    // A missing file gives a mask with every default; garbage is the fuzz target's.
     QString error;
     mask = home.load(home.path(QStringLiteral("fehlt.dbm")), &error);
     QVERIFY(!error.isEmpty());
