@@ -109,7 +109,8 @@ void TMainForm::watchMaskWindow(TMaske *mask)
 
 bool TMainForm::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Hide && qobject_cast<TMaske *>(watched)) {
+    // Maximising hides and shows the window again, so both count.
+    if ((event->type() == QEvent::Hide || event->type() == QEvent::Show) && qobject_cast<TMaske *>(watched)) {
         syncWindowLists();
         UpdateMenuItems();
     }

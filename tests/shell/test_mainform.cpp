@@ -206,6 +206,11 @@ void TestMainForm::commandsNeedAnOpenMask()
     QTest::keyClick(form.get(), Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(subWindows(form.get()).size(), 1);
     expectEnabled(true);
+    // A maximised mask is still the one the commands work on.
+    subWindows(form.get()).first()->showMaximized();
+    expectEnabled(true);
+    QVERIFY(action(form.get(), "RunModeItem")->isEnabled());
+    subWindows(form.get()).first()->showNormal();
 
     clickTool(form.get(), "FileCloseItem");
     expectEnabled(false);
