@@ -275,6 +275,92 @@ S = Byte</translation>
     </message>
 </context>
 <context>
+    <name>TChangeStyle</name>
+    <message>
+        <source>Stile ändern</source>
+        <translation>Change styles</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Oben</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Rechts</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Unten</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>Schatten</source>
+        <translation>Shadow</translation>
+    </message>
+    <message>
+        <source>Verlauf</source>
+        <translation>Gradient</translation>
+    </message>
+    <message>
+        <source>Rand</source>
+        <translation>Border</translation>
+    </message>
+    <message>
+        <source>&amp;Farbe</source>
+        <translation>&amp;Colour</translation>
+    </message>
+    <message>
+        <source>St&amp;ile</source>
+        <translation>St&amp;yle</translation>
+    </message>
+    <message>
+        <source>Schalter</source>
+        <translation>Buttons</translation>
+    </message>
+    <message>
+        <source>S&amp;tile</source>
+        <translation>S&amp;tyle</translation>
+    </message>
+    <message>
+        <source>Transparen&amp;z</source>
+        <translation>Transparen&amp;cy</translation>
+    </message>
+    <message>
+        <source>Kanten</source>
+        <translation>Edges</translation>
+    </message>
+    <message>
+        <source>Andere</source>
+        <translation>Other</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>TCheckDlg</name>
+    <message>
+        <source>Feldname:</source>
+        <translation>Field name:</translation>
+    </message>
+    <message>
+        <source>Checkbox aktiv:</source>
+        <translation>Check box on:</translation>
+    </message>
+    <message>
+        <source>Checkbox deaktiv:</source>
+        <translation>Check box off:</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+</context>
+<context>
     <name>TDbConnection</name>
     <message>
         <source>Fehler: Konnte keine Verbindung zum Datenbankserver herstellen.
@@ -363,6 +449,670 @@ S = Byte</translation>
     <message>
         <source>Bitte ändern Sie das Feld in der Maske ab.</source>
         <translation>Please change the field in the mask.</translation>
+    </message>
+</context>
+<context>
+    <name>TMaske</name>
+    <message>
+        <source>Maske &quot;%1&quot; wurde verändert!
+
+Sollen die Änderungen gespeichert werden?</source>
+        <translation>Mask &quot;%1&quot; was changed!
+
+Shall the changes be saved?</translation>
+    </message>
+    <message>
+        <source>Gelöscht</source>
+        <translation>Deleted</translation>
+    </message>
+</context>
+<context>
+    <name>TMemoDlg</name>
+    <message>
+        <source>PullDownliste editieren</source>
+        <translation>Edit pull-down list</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>TObjInsp</name>
+    <message>
+        <source>Keine</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Oben</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Unten</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Rechts</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Fenster</source>
+        <translation>Window</translation>
+    </message>
+    <message>
+        <source>Textfeld</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Zahl</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Währung</source>
+        <translation>Currency</translation>
+    </message>
+    <message>
+        <source>Logisch</source>
+        <translation>Logical</translation>
+    </message>
+    <message>
+        <source>Memo</source>
+        <translation>Memo</translation>
+    </message>
+    <message>
+        <source>AutoInc</source>
+        <translation>AutoInc</translation>
+    </message>
+    <message>
+        <source>Groß/Kleinschreibung</source>
+        <translation>Mixed case</translation>
+    </message>
+    <message>
+        <source>Großbuchstaben</source>
+        <translation>Upper case</translation>
+    </message>
+    <message>
+        <source>Kleinbuchstaben</source>
+        <translation>Lower case</translation>
+    </message>
+    <message>
+        <source>Links angeordnet</source>
+        <translation>Left aligned</translation>
+    </message>
+    <message>
+        <source>Rechts angeordnet</source>
+        <translation>Right aligned</translation>
+    </message>
+    <message>
+        <source>Zentriert</source>
+        <translation>Centred</translation>
+    </message>
+    <message>
+        <source>Datensatz suchen</source>
+        <translation>Find record</translation>
+    </message>
+    <message>
+        <source>Zeichnung starten</source>
+        <translation>Open drawing</translation>
+    </message>
+    <message>
+        <source>NC Programm starten</source>
+        <translation>Start NC program</translation>
+    </message>
+    <message>
+        <source>Datensatz zuweisen</source>
+        <translation>Assign record</translation>
+    </message>
+    <message>
+        <source>Datensatz auflisten</source>
+        <translation>List records</translation>
+    </message>
+    <message>
+        <source>Zeichnung einfügen</source>
+        <translation>Insert drawing</translation>
+    </message>
+    <message>
+        <source>Ext. Programm starten</source>
+        <translation>Start ext. program</translation>
+    </message>
+    <message>
+        <source>URL öffnen</source>
+        <translation>Open URL</translation>
+    </message>
+    <message>
+        <source>E-Mail senden</source>
+        <translation>Send e-mail</translation>
+    </message>
+    <message>
+        <source>Report starten</source>
+        <translation>Start report</translation>
+    </message>
+    <message>
+        <source>INI Sektion verarbeiten</source>
+        <translation>Process INI section</translation>
+    </message>
+    <message>
+        <source>Regel definieren</source>
+        <translation>Define rule</translation>
+    </message>
+    <message>
+        <source>Office2003 Blau</source>
+        <translation>Office2003 Blue</translation>
+    </message>
+    <message>
+        <source>Office2003 Silber</source>
+        <translation>Office2003 Silver</translation>
+    </message>
+    <message>
+        <source>Office2003 Olive</source>
+        <translation>Office2003 Olive</translation>
+    </message>
+    <message>
+        <source>Office2003 Klassik</source>
+        <translation>Office2003 Classic</translation>
+    </message>
+    <message>
+        <source>Office2007 Luna</source>
+        <translation>Office2007 Luna</translation>
+    </message>
+    <message>
+        <source>Office2007 Obsidian</source>
+        <translation>Office2007 Obsidian</translation>
+    </message>
+    <message>
+        <source>WindowsXP</source>
+        <translation>WindowsXP</translation>
+    </message>
+    <message>
+        <source>Whidbey</source>
+        <translation>Whidbey</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>Office2007 Silber</source>
+        <translation>Office2007 Silver</translation>
+    </message>
+    <message>
+        <source>Größe:</source>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source>Auto Größe</source>
+        <translation>Auto size</translation>
+    </message>
+    <message>
+        <source>Zeilenumbruch</source>
+        <translation>Word wrap</translation>
+    </message>
+    <message>
+        <source>Beschriftung:</source>
+        <translation>Caption:</translation>
+    </message>
+    <message>
+        <source>Layout:</source>
+        <translation>Layout:</translation>
+    </message>
+    <message>
+        <source>Zentrum</source>
+        <translation>Centre</translation>
+    </message>
+    <message>
+        <source>Ausrichtung:</source>
+        <translation>Alignment:</translation>
+    </message>
+    <message>
+        <source>Schriftart…</source>
+        <translation>Font…</translation>
+    </message>
+    <message>
+        <source>Feldname:</source>
+        <translation>Field name:</translation>
+    </message>
+    <message>
+        <source>Tabelle:</source>
+        <translation>Table:</translation>
+    </message>
+    <message>
+        <source>Feldtyp:</source>
+        <translation>Field type:</translation>
+    </message>
+    <message>
+        <source>Feldlänge:</source>
+        <translation>Field length:</translation>
+    </message>
+    <message>
+        <source>Im Browser editierbar</source>
+        <translation>Editable in the browser</translation>
+    </message>
+    <message>
+        <source>Feldtitel im Browser:</source>
+        <translation>Column title in the browser:</translation>
+    </message>
+    <message>
+        <source>Pflichtfeld</source>
+        <translation>Required field</translation>
+    </message>
+    <message>
+        <source>Nur lesen</source>
+        <translation>Read only</translation>
+    </message>
+    <message>
+        <source>Schreibweise:</source>
+        <translation>Letter case:</translation>
+    </message>
+    <message>
+        <source>Formatierung:</source>
+        <translation>Edit mask:</translation>
+    </message>
+    <message>
+        <source>Pulldowndatei:</source>
+        <translation>Pull-down file:</translation>
+    </message>
+    <message>
+        <source>Pulldowndatei bearbeiten</source>
+        <translation>Edit the pull-down file</translation>
+    </message>
+    <message>
+        <source>Bildlaufleisten:</source>
+        <translation>Scroll bars:</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Vertikal</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Beides</source>
+        <translation>Both</translation>
+    </message>
+    <message>
+        <source>Nur Text (ohne Formatierung)</source>
+        <translation>Plain text (no formatting)</translation>
+    </message>
+    <message>
+        <source>Beschreibung:</source>
+        <translation>Description:</translation>
+    </message>
+    <message>
+        <source>Farbfunktionen</source>
+        <translation>Colour functions</translation>
+    </message>
+    <message>
+        <source>Icon links</source>
+        <translation>Icon left</translation>
+    </message>
+    <message>
+        <source>Icon rechts</source>
+        <translation>Icon right</translation>
+    </message>
+    <message>
+        <source>Icon oben</source>
+        <translation>Icon top</translation>
+    </message>
+    <message>
+        <source>Icon unten</source>
+        <translation>Icon bottom</translation>
+    </message>
+    <message>
+        <source>Rand:</source>
+        <translation>Margin:</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Aktion:</source>
+        <translation>Action:</translation>
+    </message>
+    <message>
+        <source>Maske:</source>
+        <translation>Mask:</translation>
+    </message>
+    <message>
+        <source>Datei auswählen</source>
+        <translation>Choose file</translation>
+    </message>
+    <message>
+        <source>Zielfeld:</source>
+        <translation>Target field:</translation>
+    </message>
+    <message>
+        <source>IndexfeldEx:</source>
+        <translation>Index field ex:</translation>
+    </message>
+    <message>
+        <source>Indexfeld:</source>
+        <translation>Index field:</translation>
+    </message>
+    <message>
+        <source>Dateierweiterung:</source>
+        <translation>File extension:</translation>
+    </message>
+    <message>
+        <source>INI Sektion:</source>
+        <translation>INI section:</translation>
+    </message>
+    <message>
+        <source>als Admin ausführen</source>
+        <translation>run as administrator</translation>
+    </message>
+    <message>
+        <source>Form:</source>
+        <translation>Shape:</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Box</translation>
+    </message>
+    <message>
+        <source>Rahmen</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>Linie oben</source>
+        <translation>Line at the top</translation>
+    </message>
+    <message>
+        <source>Linie unten</source>
+        <translation>Line at the bottom</translation>
+    </message>
+    <message>
+        <source>Linie links</source>
+        <translation>Line on the left</translation>
+    </message>
+    <message>
+        <source>Linie rechts</source>
+        <translation>Line on the right</translation>
+    </message>
+    <message>
+        <source>keine</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>beide</source>
+        <translation>both</translation>
+    </message>
+    <message>
+        <source>Strukturbrowser aktiv</source>
+        <translation>Structure browser on</translation>
+    </message>
+    <message>
+        <source>Verknüpfungsfeld:</source>
+        <translation>Link field:</translation>
+    </message>
+    <message>
+        <source>Primärer Browser</source>
+        <translation>Primary browser</translation>
+    </message>
+    <message>
+        <source>Schrift…</source>
+        <translation>Font…</translation>
+    </message>
+    <message>
+        <source>Titelschrift…</source>
+        <translation>Title font…</translation>
+    </message>
+    <message>
+        <source>Rechteck</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Quadrat</source>
+        <translation>Square</translation>
+    </message>
+    <message>
+        <source>Rechteck mit abgerundeten Ecken</source>
+        <translation>Rounded rectangle</translation>
+    </message>
+    <message>
+        <source>Quadrat mit abgerundeten Ecken</source>
+        <translation>Rounded square</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Kreis</source>
+        <translation>Circle</translation>
+    </message>
+    <message>
+        <source>Füllung:</source>
+        <translation>Fill:</translation>
+    </message>
+    <message>
+        <source>Rahmen:</source>
+        <translation>Border:</translation>
+    </message>
+    <message>
+        <source>Tabellenname:</source>
+        <translation>Table name:</translation>
+    </message>
+    <message>
+        <source>Auswahltabelle</source>
+        <translation>Pick table</translation>
+    </message>
+    <message>
+        <source>Datei:</source>
+        <translation>File:</translation>
+    </message>
+    <message>
+        <source>Bild auswählen</source>
+        <translation>Choose picture</translation>
+    </message>
+    <message>
+        <source>Strecken</source>
+        <translation>Stretch</translation>
+    </message>
+    <message>
+        <source>Reiterposition</source>
+        <translation>Tab position</translation>
+    </message>
+    <message>
+        <source>Stil:</source>
+        <translation>Style:</translation>
+    </message>
+    <message>
+        <source>Schriftart Tabs</source>
+        <translation>Tab font</translation>
+    </message>
+    <message>
+        <source>Seitentitel:</source>
+        <translation>Page title:</translation>
+    </message>
+    <message>
+        <source>Farbe:</source>
+        <translation>Colour:</translation>
+    </message>
+    <message>
+        <source>Titel:</source>
+        <translation>Title:</translation>
+    </message>
+    <message>
+        <source>Werte:</source>
+        <translation>Values:</translation>
+    </message>
+    <message>
+        <source>Spalten:</source>
+        <translation>Columns:</translation>
+    </message>
+    <message>
+        <source>Innenkante:</source>
+        <translation>Inner bevel:</translation>
+    </message>
+    <message>
+        <source>Außenkante:</source>
+        <translation>Outer bevel:</translation>
+    </message>
+    <message>
+        <source>Rahmenbreite:</source>
+        <translation>Border width:</translation>
+    </message>
+    <message>
+        <source>kein</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>Simpel</source>
+        <translation>Single</translation>
+    </message>
+    <message>
+        <source>3D Style</source>
+        <translation>3D style</translation>
+    </message>
+    <message>
+        <source>Statusfeld:</source>
+        <translation>State field:</translation>
+    </message>
+    <message>
+        <source>Felder:</source>
+        <translation>Fields:</translation>
+    </message>
+    <message>
+        <source>Schlüsselfeld:</source>
+        <translation>Key field:</translation>
+    </message>
+    <message>
+        <source>Masterfeld:</source>
+        <translation>Master field:</translation>
+    </message>
+    <message>
+        <source>Elternfeld:</source>
+        <translation>Parent field:</translation>
+    </message>
+    <message>
+        <source>Drag und Drop</source>
+        <translation>Drag and drop</translation>
+    </message>
+    <message>
+        <source>Programm auswählen:</source>
+        <translation>Choose program:</translation>
+    </message>
+    <message>
+        <source>Sektion:</source>
+        <translation>Section:</translation>
+    </message>
+    <message>
+        <source>Sektion Erweiterung:</source>
+        <translation>Extension section:</translation>
+    </message>
+    <message>
+        <source>Programm auswählen</source>
+        <translation>Choose program</translation>
+    </message>
+    <message>
+        <source>Programm (*.exe)|*.exe</source>
+        <translation>Program (*.exe)|*.exe</translation>
+    </message>
+    <message>
+        <source>Datenbankmaske auswählen</source>
+        <translation>Choose database mask</translation>
+    </message>
+    <message>
+        <source>Datenbankmaske (*.dbm)|*.dbm</source>
+        <translation>Database mask (*.dbm)|*.dbm</translation>
+    </message>
+    <message>
+        <source>Bilder (*.bmp;*.png;*.jpg;*.jpeg;*.gif)|*.bmp;*.png;*.jpg;*.jpeg;*.gif|Alle Dateien (*.*)|*.*</source>
+        <translation>Pictures (*.bmp;*.png;*.jpg;*.jpeg;*.gif)|*.bmp;*.png;*.jpg;*.jpeg;*.gif|All files (*.*)|*.*</translation>
+    </message>
+    <message>
+        <source>Dateiname nicht vorhanden. Soll eine neue angelegt werden?</source>
+        <translation>The file does not exist. Shall a new one be created?</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; konnte nicht angelegt werden.</source>
+        <translation>The file &quot;%1&quot; could not be created.</translation>
+    </message>
+    <message>
+        <source>Wollen Sie die Datei editieren?</source>
+        <translation>Do you want to edit the file?</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; konnte nicht gelesen werden.</source>
+        <translation>The file &quot;%1&quot; could not be read.</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; konnte nicht geschrieben werden.</source>
+        <translation>The file &quot;%1&quot; could not be written.</translation>
+    </message>
+    <message>
+        <source>Neue Seite</source>
+        <translation>New page</translation>
+    </message>
+    <message>
+        <source>Farbe…</source>
+        <translation>Colour…</translation>
+    </message>
+    <message>
+        <source>Seite des ausgewählten Elements</source>
+        <translation>Page of the selected element</translation>
+    </message>
+    <message>
+        <source>Seite %1 ansehen</source>
+        <translation>View page %1</translation>
+    </message>
+    <message>
+        <source> (nur Ansicht)</source>
+        <translation> (view only)</translation>
+    </message>
+</context>
+<context>
+    <name>TSizeForm</name>
+    <message>
+        <source>Größe anpassen</source>
+        <translation>Adjust size</translation>
+    </message>
+    <message>
+        <source> Breite </source>
+        <translation> Width </translation>
+    </message>
+    <message>
+        <source>Keine Änderung</source>
+        <translation>No change</translation>
+    </message>
+    <message>
+        <source>aufs kleinste anpassen</source>
+        <translation>Shrink to smallest</translation>
+    </message>
+    <message>
+        <source>aufs größste anpassen</source>
+        <translation>Grow to largest</translation>
+    </message>
+    <message>
+        <source>Breite:</source>
+        <translation>Width:</translation>
+    </message>
+    <message>
+        <source> Höhe </source>
+        <translation> Height </translation>
+    </message>
+    <message>
+        <source>Höhe:</source>
+        <translation>Height:</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>&amp;Cancel</translation>
     </message>
 </context>
 <context>
@@ -601,6 +1351,33 @@ S = Byte</translation>
     <message>
         <source>Der Tabellenname „%1“ ist kein gültiger Dateiname.</source>
         <translation>The table name “%1” is not a valid file name.</translation>
+    </message>
+</context>
+<context>
+    <name>TfrmRule</name>
+    <message>
+        <source>Regel definieren</source>
+        <translation>Define rule</translation>
+    </message>
+    <message>
+        <source>Regel:</source>
+        <translation>Rule:</translation>
+    </message>
+    <message>
+        <source>Feld:</source>
+        <translation>Field:</translation>
+    </message>
+    <message>
+        <source>Farbe:</source>
+        <translation>Colour:</translation>
+    </message>
+    <message>
+        <source>auf Datensatz anwenden</source>
+        <translation>apply to the record</translation>
+    </message>
+    <message>
+        <source>Abbruch</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>

@@ -23,22 +23,22 @@ TCheckDlg::TCheckDlg(TMaske *mask, QWidget *parent)
     m_feld = new QComboBox;
     m_feld->setObjectName(QStringLiteral("Feld"));
     m_feld->setMinimumWidth(180);
-    form->addRow(QStringLiteral("Feldname:"), m_feld);
+    form->addRow(tr("Feldname:"), m_feld);
     m_an = new QComboBox;
     m_an->setObjectName(QStringLiteral("An"));
     ColorCombo::fill(m_an);
-    form->addRow(QStringLiteral("Checkbox aktiv:"), m_an);
+    form->addRow(tr("Checkbox aktiv:"), m_an);
     m_aus = new QComboBox;
     m_aus->setObjectName(QStringLiteral("Aus"));
     ColorCombo::fill(m_aus);
-    form->addRow(QStringLiteral("Checkbox deaktiv:"), m_aus);
+    form->addRow(tr("Checkbox deaktiv:"), m_aus);
     layout->addLayout(form);
 
     auto *buttons = new QDialogButtonBox;
     QPushButton *ok = buttons->addButton(QStringLiteral("&OK"), QDialogButtonBox::AcceptRole);
     ok->setObjectName(QStringLiteral("OKBtn"));
     ok->setDefault(true);
-    QPushButton *cancel = buttons->addButton(QStringLiteral("&Abbrechen"), QDialogButtonBox::RejectRole);
+    QPushButton *cancel = buttons->addButton(tr("&Abbrechen"), QDialogButtonBox::RejectRole);
     cancel->setObjectName(QStringLiteral("CancelBtn"));
     connect(ok, &QPushButton::clicked, this, &TCheckDlg::OKBtnClick);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

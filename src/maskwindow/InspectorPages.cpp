@@ -96,20 +96,28 @@ InspectorRow custom(std::function<QWidget *(TObjInsp &)> build)
 
 const QStringList &alignItems()
 {
-    static const QStringList items = {"Keine", "Oben", "Unten", "Links", "Rechts", "Fenster"};
+    static const QStringList items
+        = {QT_TRANSLATE_NOOP("TObjInsp", "Keine"),  QT_TRANSLATE_NOOP("TObjInsp", "Oben"),
+           QT_TRANSLATE_NOOP("TObjInsp", "Unten"),  QT_TRANSLATE_NOOP("TObjInsp", "Links"),
+           QT_TRANSLATE_NOOP("TObjInsp", "Rechts"), QT_TRANSLATE_NOOP("TObjInsp", "Fenster")};
     return items;
 }
 
 const QStringList &fieldTypeItems()
 {
-    static const QStringList items = {"Textfeld", "Zahl", "Datum", "Uhrzeit",
-                                      "Währung",  "Logisch", "Memo", "AutoInc"};
+    static const QStringList items
+        = {QT_TRANSLATE_NOOP("TObjInsp", "Textfeld"), QT_TRANSLATE_NOOP("TObjInsp", "Zahl"),
+           QT_TRANSLATE_NOOP("TObjInsp", "Datum"),    QT_TRANSLATE_NOOP("TObjInsp", "Uhrzeit"),
+           QT_TRANSLATE_NOOP("TObjInsp", "Währung"),  QT_TRANSLATE_NOOP("TObjInsp", "Logisch"),
+           QT_TRANSLATE_NOOP("TObjInsp", "Memo"),     QT_TRANSLATE_NOOP("TObjInsp", "AutoInc")};
     return items;
 }
 
 const QStringList &charCaseItems()
 {
-    static const QStringList items = {"Groß/Kleinschreibung", "Großbuchstaben", "Kleinbuchstaben"};
+    static const QStringList items
+        = {QT_TRANSLATE_NOOP("TObjInsp", "Groß/Kleinschreibung"), QT_TRANSLATE_NOOP("TObjInsp", "Großbuchstaben"),
+           QT_TRANSLATE_NOOP("TObjInsp", "Kleinbuchstaben")};
     return items;
 }
 
@@ -117,16 +125,24 @@ const QStringList &charCaseItems()
 
 namespace {
 
-const QStringList labelAlignment = {"Links angeordnet", "Rechts angeordnet", "Zentriert"};
+const QStringList labelAlignment
+    = {QT_TRANSLATE_NOOP("TObjInsp", "Links angeordnet"), QT_TRANSLATE_NOOP("TObjInsp", "Rechts angeordnet"),
+       QT_TRANSLATE_NOOP("TObjInsp", "Zentriert")};
 const QStringList panelBevels = {"bvNone", "bvLowered", "bvRaised", "bvSpace"};
 // The action kinds of a mask button, as its Tag stores them.
-const QStringList buttonActions = {
-    "Datensatz suchen",      "Zeichnung starten", "NC Programm starten", "Datensatz zuweisen",
-    "Datensatz auflisten",   "Zeichnung einfügen", "Ext. Programm starten", "URL öffnen",
-    "E-Mail senden",         "Report starten",     "INI Sektion verarbeiten", "Regel definieren"};
-const QStringList pagerStyles = {"Office2003 Blau", "Office2003 Silber",  "Office2003 Olive", "Office2003 Klassik",
-                                 "Office2007 Luna", "Office2007 Obsidian", "WindowsXP",       "Whidbey",
-                                 "Custom",          "Office2007 Silber"};
+const QStringList buttonActions
+    = {QT_TRANSLATE_NOOP("TObjInsp", "Datensatz suchen"),        QT_TRANSLATE_NOOP("TObjInsp", "Zeichnung starten"),
+       QT_TRANSLATE_NOOP("TObjInsp", "NC Programm starten"),     QT_TRANSLATE_NOOP("TObjInsp", "Datensatz zuweisen"),
+       QT_TRANSLATE_NOOP("TObjInsp", "Datensatz auflisten"),     QT_TRANSLATE_NOOP("TObjInsp", "Zeichnung einfügen"),
+       QT_TRANSLATE_NOOP("TObjInsp", "Ext. Programm starten"),   QT_TRANSLATE_NOOP("TObjInsp", "URL öffnen"),
+       QT_TRANSLATE_NOOP("TObjInsp", "E-Mail senden"),           QT_TRANSLATE_NOOP("TObjInsp", "Report starten"),
+       QT_TRANSLATE_NOOP("TObjInsp", "INI Sektion verarbeiten"), QT_TRANSLATE_NOOP("TObjInsp", "Regel definieren")};
+const QStringList pagerStyles
+    = {QT_TRANSLATE_NOOP("TObjInsp", "Office2003 Blau"),  QT_TRANSLATE_NOOP("TObjInsp", "Office2003 Silber"),
+       QT_TRANSLATE_NOOP("TObjInsp", "Office2003 Olive"), QT_TRANSLATE_NOOP("TObjInsp", "Office2003 Klassik"),
+       QT_TRANSLATE_NOOP("TObjInsp", "Office2007 Luna"),  QT_TRANSLATE_NOOP("TObjInsp", "Office2007 Obsidian"),
+       QT_TRANSLATE_NOOP("TObjInsp", "WindowsXP"),        QT_TRANSLATE_NOOP("TObjInsp", "Whidbey"),
+       QT_TRANSLATE_NOOP("TObjInsp", "Custom"),           QT_TRANSLATE_NOOP("TObjInsp", "Office2007 Silber")};
 
 // The main grid of a mask is its record browser; the others browse details.
 const QString kMainGrid = QStringLiteral("DBGrid1");
@@ -134,7 +150,9 @@ const QString kMainGrid = QStringLiteral("DBGrid1");
 InspectorRow sizing()
 {
     // Auto size and word wrap exclude each other on a label, hence one choice.
-    InspectorRow r = radios("Größe:", "LabelSizing", "WordWrap,!AutoSize", {"Auto Größe", "Zeilenumbruch"});
+    InspectorRow r
+        = radios(QT_TRANSLATE_NOOP("TObjInsp", "Größe:"), "LabelSizing", "WordWrap,!AutoSize",
+                 {QT_TRANSLATE_NOOP("TObjInsp", "Auto Größe"), QT_TRANSLATE_NOOP("TObjInsp", "Zeilenumbruch")});
     r.itemNames = QStringList{"LabelAutoSize", "LabelWordWrap"};
     return r;
 }
@@ -145,184 +163,270 @@ const QVector<InspectorPage> &TObjInsp::pageTable()
 {
     using F = InspectorPage;
     static const QVector<InspectorPage> pages = {
-        F{"TLabel", &TObjInsp::LabelCaptionChange, {
-            line("Beschriftung:", "LabelCaption", "Caption"),
-            combo("Layout:", "LabelLayout", "Layout", {"Oben", "Zentrum", "Unten"}),
-            combo("Ausrichtung:", "LabelAlignment", "Alignment", labelAlignment),
-            sizing(),
-            fontButton("Schriftart…", "Button1", "Font"),
-        }, {}, {}},
-        F{"TDBLabel", &TObjInsp::DBLabelFieldChange, {
-            line("Feldname:", "DBLabelField", "DataField,Caption", RowFlag::Trimmed),
-            line("Tabelle:", "DBLabelTable", "DataSource"),
-            combo("Feldtyp:", "DBLabelTyp", "Tag", fieldTypeItems()),
-            // The length only means something for text fields.
-            spin("Feldlänge:", "DBLabelSize", "Hint", 0, 9999).enabledWhile("DBLabelTyp", 0),
-            combo("Ausrichtung:", "DBLabelAlignment", "Alignment", labelAlignment),
-            check("Zeilenumbruch", "DBLabelWordWrap", "WordWrap,!AutoSize"),
-            check("Im Browser editierbar", "DBLabel_BrowserEdit", "BrowserEdit"),
-            line("Feldtitel im Browser:", "DBLabelCaption", "HelpKeyword"),
-            fontButton("Schriftart…", "Button2", "Font"),
-        }, {}, {}},
-        F{"TcxTextEdit", &TObjInsp::EditFieldNameChange, {
-            line("Feldname:", "EditFieldName", "Text", RowFlag::Trimmed),
-            combo("Feldtyp:", "EditFieldTyp", "Tag", fieldTypeItems()),
-            spin("Feldlänge:", "EditFieldSize", "MaxLength", 0, 32767).enabledWhile("EditFieldTyp", 0),
-            check("Pflichtfeld", "EditPflichtfeld", "TabStop"),
-            check("Nur lesen", "EditReadonly", "ReadOnly"),
-            combo("Schreibweise:", "EditCharcase", "CharCase", charCaseItems()),
-            line("Formatierung:", "EditMask", "Hint"),
-            line("Feldtitel im Browser:", "EditFieldCaption", "HelpKeyword"),
-        }, {}, {}},
-        F{"TcxComboBox", &TObjInsp::ComboFieldNameChange, {
-            line("Feldname:", "ComboFieldName", "Text", RowFlag::Trimmed),
-            combo("Feldtyp:", "ComboFieldTyp", "Tag", fieldTypeItems()),
-            spin("Feldlänge:", "ComboFieldSize", "MaxLength", 0, 32767).enabledWhile("ComboFieldTyp", 0),
-            check("Pflichtfeld", "ComboPflichtfeld", "TabStop"),
-            check("Nur lesen", "ComboReadOnly", "ReadOnly"),
-            combo("Schreibweise:", "ComboCharCase", "CharCase", charCaseItems()),
-            line("Pulldowndatei:", "ComboPullDownFile", "Hint")
-                .withButton("ComboPullDownFileButton", "Pulldowndatei bearbeiten",
-                            &TObjInsp::ComboPullDownFileButtonClick),
-            line("Feldtitel im Browser:", "ComboFieldCaption", "HelpKeyword"),
-        }, {}, {}},
-        F{"TcxMemo", &TObjInsp::MemoFieldnameChange, {
-            line("Feldname:", "MemoFieldname", "Lines", RowFlag::Trimmed),
-            check("Pflichtfeld", "MemoPflichtfeld", "TabStop"),
-            combo("Bildlaufleisten:", "MemoScrollbars", "ScrollBars", {"Keine", "Horizontal", "Vertikal", "Beides"}),
-            check("Nur Text (ohne Formatierung)", "MemoPlaintext", "Tag"),
-            line("Feldtitel im Browser:", "MemoFieldCaption", "HelpKeyword"),
-        }, {}, {}},
-        F{"TcxDBCheckBox", &TObjInsp::CheckFieldNameChange, {
-            line("Feldname:", "CheckFieldName", "DataField", RowFlag::Trimmed),
-            line("Beschreibung:", "CheckCaption", "Caption"),
-            combo("Ausrichtung:", "CheckAlign", "Alignment", {"Links", "Rechts"}, RowFlag::FirstWhenUnlisted),
-            line("Feldtitel im Browser:", "CheckFieldCaption", "HelpKeyword"),
-            button("Farbfunktionen", "CheckColorBtn", &TObjInsp::CheckColorBtnClick),
-        }, {}, {}},
-        F{"TMaskBtn", &TObjInsp::BtnCaptionChange, {
-            line("Beschriftung:", "BtnCaption", "Caption"),
-            combo("Layout:", "BtnLayout", "Layout", {"Icon links", "Icon rechts", "Icon oben", "Icon unten"}),
-            [] { InspectorRow r = spin("Rand:", "BtnMargin", "Margin", -1, 255); r.specialText = "Auto"; return r; }(),
-            combo("Aktion:", "BtnAction", "Tag", buttonActions),
-            line("Maske:", "BtnZuweisMaske", "ZuweisMaske")
-                .withButton("BtnZuweisMaskeBtn", "Datei auswählen", &TObjInsp::BtnZuweisMaskeBeforeDialog),
-            line("Zielfeld:", "BtnZuweisFeld", "ZuweisFeld"),
-            line("IndexfeldEx:", "BtnZuweisFeldEx", "ZuweisFeldEx"),
-            line("Indexfeld:", "BtnIndexFeld", "IndexFeld"),
-            line("Dateierweiterung:", "BtnProgExt", "ProgExt"),
-            line("INI Sektion:", "BtnSectionExt", "SectionExt"),
-            check("als Admin ausführen", "BtnRunAs", "RunAs"),
-            button("Regel definieren", "BtnZuweisRule", &TObjInsp::BtnZuweisRuleClick),
-        }, [](TObjInsp &insp) { insp.updateButtonRows(); }, {}},
-        F{"TBevel", &TObjInsp::BevelShapeClick, {
-            combo("Form:", "BevelShape", "Shape",
-                  {"Box", "Rahmen", "Linie oben", "Linie unten", "Linie links", "Linie rechts"}),
-        }, {}, {}},
-        F{"TDBGrid", &TObjInsp::DBGridAlignClick, {
-            combo("Ausrichtung:", "DBGridAlign", "Align", alignItems()),
-            check("Nur lesen", "DBGridReadOnly", "ReadOnly"),
-            combo("Bildlaufleisten:", "DBGrid_Scrollbars", "Tag", {"keine", "Horizontal", "Vertikal", "beide"}),
-            check("Strukturbrowser aktiv", "DBGrid_StructCheckBox", "TabStop"),
-            // A detail browser names the field that links it to the record.
-            line("Verknüpfungsfeld:", "DBGrid_Field", "Hint").onPanel("MoreBrowserPanel"),
-            note("Primärer Browser", "PrimaryBrowserLabel"),
-            fontButton("Schrift…", "DBGrid_Font", "Font"),
-            fontButton("Titelschrift…", "DBGrid_Headerfont", "TitleFont"),
-        }, [](TObjInsp &insp) {
-            const bool main = insp.m_current && insp.m_current->objectName() == kMainGrid;
-            insp.showRow(QStringLiteral("MoreBrowserPanel"), !main);
-            insp.showRow(QStringLiteral("PrimaryBrowserLabel"), main);
-        }, {}},
-        F{"TShape", &TObjInsp::ShapestyleChange, {
-            combo("Form:", "Shapestyle", "Shape",
-                  {"Rechteck", "Quadrat", "Rechteck mit abgerundeten Ecken", "Quadrat mit abgerundeten Ecken",
-                   "Ellipse", "Kreis"}),
-            colorButton("Füllung:", "ShapeBrushColor", "Brush.Color"),
-            colorButton("Rahmen:", "ShapePenColor", "Pen.Color"),
-        }, {}, {}},
+        F{"TLabel",
+          &TObjInsp::LabelCaptionChange,
+          {
+              line(QT_TR_NOOP("Beschriftung:"), "LabelCaption", "Caption"),
+              combo(QT_TR_NOOP("Layout:"), "LabelLayout", "Layout",
+                    {QT_TR_NOOP("Oben"), QT_TR_NOOP("Zentrum"), QT_TR_NOOP("Unten")}),
+              combo(QT_TR_NOOP("Ausrichtung:"), "LabelAlignment", "Alignment", labelAlignment),
+              sizing(),
+              fontButton(QT_TR_NOOP("Schriftart…"), "Button1", "Font"),
+          },
+          {},
+          {}},
+        F{"TDBLabel",
+          &TObjInsp::DBLabelFieldChange,
+          {
+              line(QT_TR_NOOP("Feldname:"), "DBLabelField", "DataField,Caption", RowFlag::Trimmed),
+              line(QT_TR_NOOP("Tabelle:"), "DBLabelTable", "DataSource"),
+              combo(QT_TR_NOOP("Feldtyp:"), "DBLabelTyp", "Tag", fieldTypeItems()),
+              // The length only means something for text fields.
+              spin(QT_TR_NOOP("Feldlänge:"), "DBLabelSize", "Hint", 0, 9999).enabledWhile("DBLabelTyp", 0),
+              combo(QT_TR_NOOP("Ausrichtung:"), "DBLabelAlignment", "Alignment", labelAlignment),
+              check(QT_TR_NOOP("Zeilenumbruch"), "DBLabelWordWrap", "WordWrap,!AutoSize"),
+              check(QT_TR_NOOP("Im Browser editierbar"), "DBLabel_BrowserEdit", "BrowserEdit"),
+              line(QT_TR_NOOP("Feldtitel im Browser:"), "DBLabelCaption", "HelpKeyword"),
+              fontButton(QT_TR_NOOP("Schriftart…"), "Button2", "Font"),
+          },
+          {},
+          {}},
+        F{"TcxTextEdit",
+          &TObjInsp::EditFieldNameChange,
+          {
+              line(QT_TR_NOOP("Feldname:"), "EditFieldName", "Text", RowFlag::Trimmed),
+              combo(QT_TR_NOOP("Feldtyp:"), "EditFieldTyp", "Tag", fieldTypeItems()),
+              spin(QT_TR_NOOP("Feldlänge:"), "EditFieldSize", "MaxLength", 0, 32767).enabledWhile("EditFieldTyp", 0),
+              check(QT_TR_NOOP("Pflichtfeld"), "EditPflichtfeld", "TabStop"),
+              check(QT_TR_NOOP("Nur lesen"), "EditReadonly", "ReadOnly"),
+              combo(QT_TR_NOOP("Schreibweise:"), "EditCharcase", "CharCase", charCaseItems()),
+              line(QT_TR_NOOP("Formatierung:"), "EditMask", "Hint"),
+              line(QT_TR_NOOP("Feldtitel im Browser:"), "EditFieldCaption", "HelpKeyword"),
+          },
+          {},
+          {}},
+        F{"TcxComboBox",
+          &TObjInsp::ComboFieldNameChange,
+          {
+              line(QT_TR_NOOP("Feldname:"), "ComboFieldName", "Text", RowFlag::Trimmed),
+              combo(QT_TR_NOOP("Feldtyp:"), "ComboFieldTyp", "Tag", fieldTypeItems()),
+              spin(QT_TR_NOOP("Feldlänge:"), "ComboFieldSize", "MaxLength", 0, 32767).enabledWhile("ComboFieldTyp", 0),
+              check(QT_TR_NOOP("Pflichtfeld"), "ComboPflichtfeld", "TabStop"),
+              check(QT_TR_NOOP("Nur lesen"), "ComboReadOnly", "ReadOnly"),
+              combo(QT_TR_NOOP("Schreibweise:"), "ComboCharCase", "CharCase", charCaseItems()),
+              line(QT_TR_NOOP("Pulldowndatei:"), "ComboPullDownFile", "Hint")
+                  .withButton("ComboPullDownFileButton", QT_TR_NOOP("Pulldowndatei bearbeiten"),
+                              &TObjInsp::ComboPullDownFileButtonClick),
+              line(QT_TR_NOOP("Feldtitel im Browser:"), "ComboFieldCaption", "HelpKeyword"),
+          },
+          {},
+          {}},
+        F{"TcxMemo",
+          &TObjInsp::MemoFieldnameChange,
+          {
+              line(QT_TR_NOOP("Feldname:"), "MemoFieldname", "Lines", RowFlag::Trimmed),
+              check(QT_TR_NOOP("Pflichtfeld"), "MemoPflichtfeld", "TabStop"),
+              combo(QT_TR_NOOP("Bildlaufleisten:"), "MemoScrollbars", "ScrollBars",
+                    {QT_TR_NOOP("Keine"), QT_TR_NOOP("Horizontal"), QT_TR_NOOP("Vertikal"), QT_TR_NOOP("Beides")}),
+              check(QT_TR_NOOP("Nur Text (ohne Formatierung)"), "MemoPlaintext", "Tag"),
+              line(QT_TR_NOOP("Feldtitel im Browser:"), "MemoFieldCaption", "HelpKeyword"),
+          },
+          {},
+          {}},
+        F{"TcxDBCheckBox",
+          &TObjInsp::CheckFieldNameChange,
+          {
+              line(QT_TR_NOOP("Feldname:"), "CheckFieldName", "DataField", RowFlag::Trimmed),
+              line(QT_TR_NOOP("Beschreibung:"), "CheckCaption", "Caption"),
+              combo(QT_TR_NOOP("Ausrichtung:"), "CheckAlign", "Alignment", {QT_TR_NOOP("Links"), QT_TR_NOOP("Rechts")},
+                    RowFlag::FirstWhenUnlisted),
+              line(QT_TR_NOOP("Feldtitel im Browser:"), "CheckFieldCaption", "HelpKeyword"),
+              button(QT_TR_NOOP("Farbfunktionen"), "CheckColorBtn", &TObjInsp::CheckColorBtnClick),
+          },
+          {},
+          {}},
+        F{"TMaskBtn",
+          &TObjInsp::BtnCaptionChange,
+          {
+              line(QT_TR_NOOP("Beschriftung:"), "BtnCaption", "Caption"),
+              combo(QT_TR_NOOP("Layout:"), "BtnLayout", "Layout",
+                    {QT_TR_NOOP("Icon links"), QT_TR_NOOP("Icon rechts"), QT_TR_NOOP("Icon oben"),
+                     QT_TR_NOOP("Icon unten")}),
+              [] {
+                  InspectorRow r = spin(QT_TR_NOOP("Rand:"), "BtnMargin", "Margin", -1, 255);
+                  r.specialText = QT_TR_NOOP("Auto");
+                  return r;
+              }(),
+              combo(QT_TR_NOOP("Aktion:"), "BtnAction", "Tag", buttonActions),
+              line(QT_TR_NOOP("Maske:"), "BtnZuweisMaske", "ZuweisMaske")
+                  .withButton("BtnZuweisMaskeBtn", QT_TR_NOOP("Datei auswählen"),
+                              &TObjInsp::BtnZuweisMaskeBeforeDialog),
+              line(QT_TR_NOOP("Zielfeld:"), "BtnZuweisFeld", "ZuweisFeld"),
+              line(QT_TR_NOOP("IndexfeldEx:"), "BtnZuweisFeldEx", "ZuweisFeldEx"),
+              line(QT_TR_NOOP("Indexfeld:"), "BtnIndexFeld", "IndexFeld"),
+              line(QT_TR_NOOP("Dateierweiterung:"), "BtnProgExt", "ProgExt"),
+              line(QT_TR_NOOP("INI Sektion:"), "BtnSectionExt", "SectionExt"),
+              check(QT_TR_NOOP("als Admin ausführen"), "BtnRunAs", "RunAs"),
+              button(QT_TR_NOOP("Regel definieren"), "BtnZuweisRule", &TObjInsp::BtnZuweisRuleClick),
+          },
+          [](TObjInsp &insp) { insp.updateButtonRows(); },
+          {}},
+        F{"TBevel",
+          &TObjInsp::BevelShapeClick,
+          {
+              combo(QT_TR_NOOP("Form:"), "BevelShape", "Shape",
+                    {QT_TR_NOOP("Box"), QT_TR_NOOP("Rahmen"), QT_TR_NOOP("Linie oben"), QT_TR_NOOP("Linie unten"),
+                     QT_TR_NOOP("Linie links"), QT_TR_NOOP("Linie rechts")}),
+          },
+          {},
+          {}},
+        F{"TDBGrid",
+          &TObjInsp::DBGridAlignClick,
+          {
+              combo(QT_TR_NOOP("Ausrichtung:"), "DBGridAlign", "Align", alignItems()),
+              check(QT_TR_NOOP("Nur lesen"), "DBGridReadOnly", "ReadOnly"),
+              combo(QT_TR_NOOP("Bildlaufleisten:"), "DBGrid_Scrollbars", "Tag",
+                    {QT_TR_NOOP("keine"), QT_TR_NOOP("Horizontal"), QT_TR_NOOP("Vertikal"), QT_TR_NOOP("beide")}),
+              check(QT_TR_NOOP("Strukturbrowser aktiv"), "DBGrid_StructCheckBox", "TabStop"),
+              // A detail browser names the field that links it to the record.
+              line(QT_TR_NOOP("Verknüpfungsfeld:"), "DBGrid_Field", "Hint").onPanel("MoreBrowserPanel"),
+              note(QT_TR_NOOP("Primärer Browser"), "PrimaryBrowserLabel"),
+              fontButton(QT_TR_NOOP("Schrift…"), "DBGrid_Font", "Font"),
+              fontButton(QT_TR_NOOP("Titelschrift…"), "DBGrid_Headerfont", "TitleFont"),
+          },
+          [](TObjInsp &insp) {
+              const bool main = insp.m_current && insp.m_current->objectName() == kMainGrid;
+              insp.showRow(QStringLiteral("MoreBrowserPanel"), !main);
+              insp.showRow(QStringLiteral("PrimaryBrowserLabel"), main);
+          },
+          {}},
+        F{"TShape",
+          &TObjInsp::ShapestyleChange,
+          {
+              combo(QT_TR_NOOP("Form:"), "Shapestyle", "Shape",
+                    {QT_TR_NOOP("Rechteck"), QT_TR_NOOP("Quadrat"), QT_TR_NOOP("Rechteck mit abgerundeten Ecken"),
+                     QT_TR_NOOP("Quadrat mit abgerundeten Ecken"), QT_TR_NOOP("Ellipse"), QT_TR_NOOP("Kreis")}),
+              colorButton(QT_TR_NOOP("Füllung:"), "ShapeBrushColor", "Brush.Color"),
+              colorButton(QT_TR_NOOP("Rahmen:"), "ShapePenColor", "Pen.Color"),
+          },
+          {},
+          {}},
         // The lookup keeps its table name in EditMask and its pick-list flag
         // in PopupSizeable; type and length describe the pick-list field.
-        F{"TcxDBPopupEdit", &TObjInsp::LUNameChange, {
-            line("Feldname:", "LUName", "DataField", RowFlag::Trimmed),
-            line("Tabellenname:", "LUDatabase", "EditMask"),
-            check("Auswahltabelle", "LUPicklist", "PopupSizeable"),
-            // Without a pick list the type is -1; the first type shows until one is chosen.
-            combo("Feldtyp:", "LUFieldTyp", "Tag", fieldTypeItems(), RowFlag::FirstWhenUnlisted)
-                .enabledWhile("LUPicklist", 1),
-            spin("Feldlänge:", "LUFieldSize", "MaxLength", 0, 32767).enabledWhile("LUPicklist", 1),
-            combo("Schreibweise:", "LUCharCase", "CharCase", charCaseItems()),
-            check("Nur lesen", "LUReadonly", "ReadOnly"),
-            line("Feldtitel im Browser:", "LUNameCaption", "HelpKeyword"),
-        }, {}, [](TObjInsp &, QWidget *c) {
-            auto *lookup = qobject_cast<TcxDBPopupEdit *>(c);
-            if (lookup && !lookup->PopupSizeable())
-                lookup->setTag(-1);
-        }},
-        F{"TImageAspect", &TObjInsp::ImageStrechCheckBoxClick, {
-            line("Datei:", "ImageFileEdit", "FileName")
-                .withButton("ImageFileBtn", "Bild auswählen", &TObjInsp::ImageFileBtnClick),
-            check("Strecken", "ImageStrechCheckBox", "AutoSize"),
-        }, {}, {}},
-        F{"TAdvOfficePager", &TObjInsp::OfficePagerAlignClick, {
-            combo("Ausrichtung:", "OfficePagerAlign", "Align", alignItems()),
-            radios("Reiterposition", "RGOfficePagerTabP", "TabPosition", {"Oben", "Unten", "Links", "Rechts"},
-                   RowFlag::Framed),
-            // The style belongs to the mask: all its page controls share it.
-            [] {
-                InspectorRow r = combo("Stil:", "CBOfficePagerStyle", "", pagerStyles);
-                r.read = [](const TObjInsp &insp) {
-                    return QVariant(insp.m_mask ? insp.m_mask->document()->OfficePagerStyle() : -1);
-                };
-                r.write = [](TObjInsp &insp, const QVariant &index) {
-                    if (insp.m_mask && index.toInt() >= 0)
-                        insp.m_mask->document()->setOfficePagerStyle(index.toInt());
-                };
-                return r;
-            }(),
-            fontButton("Schriftart Tabs", "Button4", "Font"),
-            custom([](TObjInsp &insp) { return insp.buildNewPageBox(); }),
-        }, {}, {}},
-        F{"TAdvOfficePage", &TObjInsp::EditOfficePageChange, {
-            line("Seitentitel:", "EditOfficePage", "Caption"),
-            colorButton("Farbe:", "Button5", "Color"),
-        }, {}, {}},
-        F{"TDBRadioGroup", &TObjInsp::EditRGChange, {
-            line("Feldname:", "EditRGDB", "DataField"),
-            line("Titel:", "EditRG", "Caption"),
-            memo("Werte:", "MemoRG", "Items"),
-            spin("Spalten:", "SpinEditRB", "Columns", 1, 16),
-            spin("Feldlänge:", "EditSizeRG", "Tag", 0, 9999),
-            check("Pflichtfeld", "EditRGPflicht", "TabStop"),
-            line("Feldtitel im Browser:", "EditRBKeyword", "HelpKeyword"),
-            fontButton("Schriftart…", "Button3", "Font"),
-        }, {}, {}},
-        F{"TPanel", &TObjInsp::PanelAlignClick, {
-            combo("Ausrichtung:", "PanelAlign", "Align", alignItems()),
-            line("Beschriftung:", "PanelCaption", "Caption"),
-            combo("Innenkante:", "Panel_Bevelinner", "BevelInner", panelBevels),
-            combo("Außenkante:", "Panel_Bevelouter", "BevelOuter", panelBevels),
-            spin("Rahmenbreite:", "Panel_SpinEdit", "BevelWidth", 1, 20),
-            combo("Rahmen:", "Panel_BorderStyle", "BorderStyle", {"kein", "Simpel"}),
-            check("3D Style", "Panel_Ctrl", "Ctl3D"),
-            colorButton("Farbe:", "Button6", "Color"),
-            fontButton("Schriftart…", "Button7", "Font"),
-        }, {}, {}},
+        F{"TcxDBPopupEdit",
+          &TObjInsp::LUNameChange,
+          {
+              line(QT_TR_NOOP("Feldname:"), "LUName", "DataField", RowFlag::Trimmed),
+              line(QT_TR_NOOP("Tabellenname:"), "LUDatabase", "EditMask"),
+              check(QT_TR_NOOP("Auswahltabelle"), "LUPicklist", "PopupSizeable"),
+              // Without a pick list the type is -1; the first type shows until one is chosen.
+              combo(QT_TR_NOOP("Feldtyp:"), "LUFieldTyp", "Tag", fieldTypeItems(), RowFlag::FirstWhenUnlisted)
+                  .enabledWhile("LUPicklist", 1),
+              spin(QT_TR_NOOP("Feldlänge:"), "LUFieldSize", "MaxLength", 0, 32767).enabledWhile("LUPicklist", 1),
+              combo(QT_TR_NOOP("Schreibweise:"), "LUCharCase", "CharCase", charCaseItems()),
+              check(QT_TR_NOOP("Nur lesen"), "LUReadonly", "ReadOnly"),
+              line(QT_TR_NOOP("Feldtitel im Browser:"), "LUNameCaption", "HelpKeyword"),
+          },
+          {},
+          [](TObjInsp &, QWidget *c) {
+              auto *lookup = qobject_cast<TcxDBPopupEdit *>(c);
+              if (lookup && !lookup->PopupSizeable())
+                  lookup->setTag(-1);
+          }},
+        F{"TImageAspect",
+          &TObjInsp::ImageStrechCheckBoxClick,
+          {
+              line(QT_TR_NOOP("Datei:"), "ImageFileEdit", "FileName")
+                  .withButton("ImageFileBtn", QT_TR_NOOP("Bild auswählen"), &TObjInsp::ImageFileBtnClick),
+              check(QT_TR_NOOP("Strecken"), "ImageStrechCheckBox", "AutoSize"),
+          },
+          {},
+          {}},
+        F{"TAdvOfficePager",
+          &TObjInsp::OfficePagerAlignClick,
+          {
+              combo(QT_TR_NOOP("Ausrichtung:"), "OfficePagerAlign", "Align", alignItems()),
+              radios(QT_TR_NOOP("Reiterposition"), "RGOfficePagerTabP", "TabPosition",
+                     {QT_TR_NOOP("Oben"), QT_TR_NOOP("Unten"), QT_TR_NOOP("Links"), QT_TR_NOOP("Rechts")},
+                     RowFlag::Framed),
+              // The style belongs to the mask: all its page controls share it.
+              [] {
+                  InspectorRow r = combo(QT_TR_NOOP("Stil:"), "CBOfficePagerStyle", "", pagerStyles);
+                  r.read = [](const TObjInsp &insp) {
+                      return QVariant(insp.m_mask ? insp.m_mask->document()->OfficePagerStyle() : -1);
+                  };
+                  r.write = [](TObjInsp &insp, const QVariant &index) {
+                      if (insp.m_mask && index.toInt() >= 0)
+                          insp.m_mask->document()->setOfficePagerStyle(index.toInt());
+                  };
+                  return r;
+              }(),
+              fontButton(QT_TR_NOOP("Schriftart Tabs"), "Button4", "Font"),
+              custom([](TObjInsp &insp) { return insp.buildNewPageBox(); }),
+          },
+          {},
+          {}},
+        F{"TAdvOfficePage",
+          &TObjInsp::EditOfficePageChange,
+          {
+              line(QT_TR_NOOP("Seitentitel:"), "EditOfficePage", "Caption"),
+              colorButton(QT_TR_NOOP("Farbe:"), "Button5", "Color"),
+          },
+          {},
+          {}},
+        F{"TDBRadioGroup",
+          &TObjInsp::EditRGChange,
+          {
+              line(QT_TR_NOOP("Feldname:"), "EditRGDB", "DataField"),
+              line(QT_TR_NOOP("Titel:"), "EditRG", "Caption"),
+              memo(QT_TR_NOOP("Werte:"), "MemoRG", "Items"),
+              spin(QT_TR_NOOP("Spalten:"), "SpinEditRB", "Columns", 1, 16),
+              spin(QT_TR_NOOP("Feldlänge:"), "EditSizeRG", "Tag", 0, 9999),
+              check(QT_TR_NOOP("Pflichtfeld"), "EditRGPflicht", "TabStop"),
+              line(QT_TR_NOOP("Feldtitel im Browser:"), "EditRBKeyword", "HelpKeyword"),
+              fontButton(QT_TR_NOOP("Schriftart…"), "Button3", "Font"),
+          },
+          {},
+          {}},
+        F{"TPanel",
+          &TObjInsp::PanelAlignClick,
+          {
+              combo(QT_TR_NOOP("Ausrichtung:"), "PanelAlign", "Align", alignItems()),
+              line(QT_TR_NOOP("Beschriftung:"), "PanelCaption", "Caption"),
+              combo(QT_TR_NOOP("Innenkante:"), "Panel_Bevelinner", "BevelInner", panelBevels),
+              combo(QT_TR_NOOP("Außenkante:"), "Panel_Bevelouter", "BevelOuter", panelBevels),
+              spin(QT_TR_NOOP("Rahmenbreite:"), "Panel_SpinEdit", "BevelWidth", 1, 20),
+              combo(QT_TR_NOOP("Rahmen:"), "Panel_BorderStyle", "BorderStyle",
+                    {QT_TR_NOOP("kein"), QT_TR_NOOP("Simpel")}),
+              check(QT_TR_NOOP("3D Style"), "Panel_Ctrl", "Ctl3D"),
+              colorButton(QT_TR_NOOP("Farbe:"), "Button6", "Color"),
+              fontButton(QT_TR_NOOP("Schriftart…"), "Button7", "Font"),
+          },
+          {},
+          {}},
         // The tree list keeps its table in the state-index field and its
         // master field in HelpKeyword.
-        F{"TcxDBTreeList", &TObjInsp::TreeListAlignClick, {
-            combo("Ausrichtung:", "TreeListAlign", "Align", alignItems()),
-            line("Statusfeld:", "EditTreelistDB", "StateIndexField"),
-            line("Felder:", "EditTreelistFields", "Hint"),
-            line("Schlüsselfeld:", "EditTreelistKeyField", "KeyField"),
-            line("Masterfeld:", "EditTreelistKField", "HelpKeyword"),
-            line("Elternfeld:", "EditTreelistParentField", "ParentField"),
-            line("Indexfeld:", "EditTreelistIndexField", "ImageIndexField"),
-            check("Drag und Drop", "DBTreeList_Drag", "DragDrop"),
-        }, {}, {}},
-        F{"TStringGrid", &TObjInsp::StringGridAlignClick, {
-            combo("Ausrichtung:", "StringGridAlign", "Align", alignItems()),
-        }, {}, {}},
+        F{"TcxDBTreeList",
+          &TObjInsp::TreeListAlignClick,
+          {
+              combo(QT_TR_NOOP("Ausrichtung:"), "TreeListAlign", "Align", alignItems()),
+              line(QT_TR_NOOP("Statusfeld:"), "EditTreelistDB", "StateIndexField"),
+              line(QT_TR_NOOP("Felder:"), "EditTreelistFields", "Hint"),
+              line(QT_TR_NOOP("Schlüsselfeld:"), "EditTreelistKeyField", "KeyField"),
+              line(QT_TR_NOOP("Masterfeld:"), "EditTreelistKField", "HelpKeyword"),
+              line(QT_TR_NOOP("Elternfeld:"), "EditTreelistParentField", "ParentField"),
+              line(QT_TR_NOOP("Indexfeld:"), "EditTreelistIndexField", "ImageIndexField"),
+              check(QT_TR_NOOP("Drag und Drop"), "DBTreeList_Drag", "DragDrop"),
+          },
+          {},
+          {}},
+        F{"TStringGrid",
+          &TObjInsp::StringGridAlignClick,
+          {
+              combo(QT_TR_NOOP("Ausrichtung:"), "StringGridAlign", "Align", alignItems()),
+          },
+          {},
+          {}},
     };
     return pages;
 }

@@ -211,8 +211,8 @@ bool TMaske::FormCloseQuery()
 {
     if (!m_modified)
         return true;
-    const QString text = QStringLiteral("Maske \"") + windowTitle() + QStringLiteral("\" wurde verändert!")
-                         + QStringLiteral("\n\nSollen die Änderungen gespeichert werden?");
+    const QString text
+        = tr("Maske \"%1\" wurde verändert!\n\nSollen die Änderungen gespeichert werden?").arg(windowTitle());
     switch (UserDialogs::instance().messageDlg(this, text, mtWarning, mbYes | mbNo | mbAbort)) {
     case mrYes:
         if (m_host)
@@ -265,7 +265,7 @@ void TMaske::FormDesigner2DeleteControl(QWidget *control)
     // The engine names the control that left the selection; without one
     // something was deleted that the engine could not name.
     if (!control)
-        UserDialogs::instance().messageDlg(this, QStringLiteral("Gelöscht"), mtInformation, mbOK);
+        UserDialogs::instance().messageDlg(this, tr("Gelöscht"), mtInformation, mbOK);
 }
 
 void TMaske::FormDesigner2KeyDown(int &key, Qt::KeyboardModifiers shift)

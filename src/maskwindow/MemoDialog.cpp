@@ -14,7 +14,7 @@ TMemoDlg::TMemoDlg(QWidget *parent)
     , m_memo(new QPlainTextEdit(this))
 {
     setObjectName(QStringLiteral("MemoDlg"));
-    setWindowTitle(QStringLiteral("PullDownliste editieren"));
+    setWindowTitle(tr("PullDownliste editieren"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     m_memo->setObjectName(QStringLiteral("Memo1"));
@@ -25,7 +25,7 @@ TMemoDlg::TMemoDlg(QWidget *parent)
     ok->setObjectName(QStringLiteral("OKBtn"));
     ok->setDefault(false); // Enter starts a new line in the memo
     ok->setAutoDefault(false);
-    auto *cancel = new QPushButton(QStringLiteral("&Abbrechen"), this);
+    auto *cancel = new QPushButton(tr("&Abbrechen"), this);
     cancel->setObjectName(QStringLiteral("CancelBtn"));
     cancel->setAutoDefault(false);
     connect(ok, &QPushButton::clicked, this, &TMemoDlg::accept);

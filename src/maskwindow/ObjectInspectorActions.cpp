@@ -67,16 +67,17 @@ void TObjInsp::updateButtonRows()
     const bool section = kind == baUrl || kind == baMail || kind == baReport || kind == baIniSection;
 
     showRow(QStringLiteral("BtnZuweisMaske"), assign || program);
-    setRowLabel(QStringLiteral("BtnZuweisMaske"), program ? QStringLiteral("Programm auswählen:") : QStringLiteral("Maske:"));
+    setRowLabel(QStringLiteral("BtnZuweisMaske"), program ? tr("Programm auswählen:") : tr("Maske:"));
     showRow(QStringLiteral("BtnZuweisFeld"), assign);
     showRow(QStringLiteral("BtnZuweisFeldEx"), assign);
     showRow(QStringLiteral("BtnIndexFeld"), assign);
     // The extension field is the file extension of a program and the
     // section extension of the other kinds that use one.
     showRow(QStringLiteral("BtnProgExt"), program || section);
-    setRowLabel(QStringLiteral("BtnProgExt"), program ? QStringLiteral("Dateierweiterung:")
-                                              : kind == baIniSection ? QStringLiteral("Sektion:")
-                                                                     : QStringLiteral("Sektion Erweiterung:"));
+    setRowLabel(QStringLiteral("BtnProgExt"),
+                program                    ? tr("Dateierweiterung:")
+                    : kind == baIniSection ? tr("Sektion:")
+                                           : tr("Sektion Erweiterung:"));
     showRow(QStringLiteral("BtnSectionExt"), program);
     showRow(QStringLiteral("BtnRunAs"), program);
     showRow(QStringLiteral("BtnZuweisRule"), kind == baList || kind == baRule);
@@ -114,11 +115,11 @@ void TObjInsp::BtnZuweisMaskeBeforeDialog()
     TFileDialog dialog;
     dialog.kind = TFileDialog::Open;
     if (kind == baProgram) {
-        dialog.title = QStringLiteral("Programm auswählen");
-        dialog.filter = QStringLiteral("Programm (*.exe)|*.exe");
+        dialog.title = tr("Programm auswählen");
+        dialog.filter = tr("Programm (*.exe)|*.exe");
     } else {
-        dialog.title = QStringLiteral("Datenbankmaske auswählen");
-        dialog.filter = QStringLiteral("Datenbankmaske (*.dbm)|*.dbm");
+        dialog.title = tr("Datenbankmaske auswählen");
+        dialog.filter = tr("Datenbankmaske (*.dbm)|*.dbm");
     }
     dialog.fileName = editor<QLineEdit>(QStringLiteral("BtnZuweisMaske"))->text();
     if (!dialog.execute(this))
@@ -149,9 +150,9 @@ void TObjInsp::ImageFileBtnClick()
     if (!qobject_cast<TImageAspect *>(m_current.data()))
         return;
     TFileDialog dialog;
-    dialog.title = QStringLiteral("Bild auswählen");
-    dialog.filter = QStringLiteral("Bilder (*.bmp;*.png;*.jpg;*.jpeg;*.gif)|*.bmp;*.png;*.jpg;*.jpeg;*.gif|"
-                                   "Alle Dateien (*.*)|*.*");
+    dialog.title = tr("Bild auswählen");
+    dialog.filter = tr("Bilder (*.bmp;*.png;*.jpg;*.jpeg;*.gif)|*.bmp;*.png;*.jpg;*.jpeg;*.gif|"
+                       "Alle Dateien (*.*)|*.*");
     dialog.fileName = editor<QLineEdit>(QStringLiteral("ImageFileEdit"))->text();
     dialog.fileMustExist = true;
     if (dialog.execute(this))
@@ -186,23 +187,22 @@ void TObjInsp::ComboPullDownFileButtonClick()
     };
 
     if (!QFileInfo::exists(path)) {
-        if (dialogs.messageDlg(this, QStringLiteral("Dateiname nicht vorhanden. Soll eine neue angelegt werden?"),
-                               mtConfirmation, mbYes | mbNo)
+        if (dialogs.messageDlg(this, tr("Dateiname nicht vorhanden. Soll eine neue angelegt werden?"), mtConfirmation,
+                               mbYes | mbNo)
             != mrYes)
             return;
         QFile created(path);
         if (!QDir().mkpath(QFileInfo(path).absolutePath()) || !created.open(QIODevice::WriteOnly)) {
-            failed(QStringLiteral("Die Datei \"%1\" konnte nicht angelegt werden."));
+            failed(tr("Die Datei \"%1\" konnte nicht angelegt werden."));
             return;
         }
     }
-    if (dialogs.messageDlg(this, QStringLiteral("Wollen Sie die Datei editieren?"), mtConfirmation, mbYes | mbNo)
-        != mrYes)
+    if (dialogs.messageDlg(this, tr("Wollen Sie die Datei editieren?"), mtConfirmation, mbYes | mbNo) != mrYes)
         return;
 
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        failed(QStringLiteral("Die Datei \"%1\" konnte nicht gelesen werden."));
+        failed(tr("Die Datei \"%1\" konnte nicht gelesen werden."));
         return;
     }
     const QStringList before = splitLines(TextCodec::decodeFileText(file.readAll()));
@@ -229,7 +229,7 @@ void TObjInsp::ComboPullDownFileButtonClick()
     QSaveFile out(path);
     const QByteArray bytes = TextCodec::encodeWindows1252(text);
     if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit()) {
-        failed(QStringLiteral("Die Datei \"%1\" konnte nicht geschrieben werden."));
+        failed(tr("Die Datei \"%1\" konnte nicht geschrieben werden."));
         return;
     }
     combo->setItems(items);
@@ -240,14 +240,14 @@ void TObjInsp::ComboPullDownFileButtonClick()
 
 QWidget *TObjInsp::buildNewPageBox()
 {
-    auto *box = new QGroupBox(QStringLiteral("Neue Seite"));
+    auto *box = new QGroupBox(tr("Neue Seite"));
     auto *layout = new QHBoxLayout(box);
     layout->setContentsMargins(6, 4, 6, 4);
     auto *caption = new QLineEdit;
     caption->setObjectName(QStringLiteral("NewPageCaption"));
     caption->setPlaceholderText(QStringLiteral("Seitentitel"));
     caption->setMinimumWidth(60);
-    auto *add = new QPushButton(QStringLiteral("Neue Seite"));
+    auto *add = new QPushButton(tr("Neue Seite"));
     add->setObjectName(QStringLiteral("NewPageBTN"));
     add->setAutoDefault(false);
     layout->addWidget(caption, 1);
@@ -265,7 +265,7 @@ void TObjInsp::NewPageBTNClick()
     auto *captionEdit = findChild<QLineEdit *>(QStringLiteral("NewPageCaption"));
     QString caption = captionEdit->text();
     if (caption.isEmpty())
-        caption = QStringLiteral("Neue Seite");
+        caption = tr("Neue Seite");
     TAdvOfficePage *page = m_mask->document()->NewOPage(caption);
     pager->addPage(page);
     // The engine takes the new page in like every control it watches.

@@ -198,6 +198,22 @@ void TObjInsp::buildPages()
     }
 }
 
+namespace {
+// The rows hold the German source texts; the editors show them translated.
+QString shown(const QString &text)
+{
+    return text.isEmpty() ? text : TObjInsp::tr(text.toUtf8().constData());
+}
+
+QStringList shown(const QStringList &items)
+{
+    QStringList out;
+    for (const QString &item : items)
+        out << shown(item);
+    return out;
+}
+} // namespace
+
 void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFormLayout *form)
 {
     const TClassInfo *info = ControlClasses::find(page.caption);
@@ -212,7 +228,7 @@ void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFor
     const InspectorHandler change = page.change;
     QWidget *editor = nullptr;
     QWidget *field = nullptr;
-    QString label = row.label;
+    QString label = shown(row.label);
     switch (row.kind) {
     case EditorKind::Line: {
         auto *edit = new QLineEdit;
@@ -228,7 +244,7 @@ void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFor
             auto *button = new QToolButton;
             button->setObjectName(row.buttonName);
             button->setText(QStringLiteral("…"));
-            button->setToolTip(row.buttonTip);
+            button->setToolTip(shown(row.buttonTip));
             box->addWidget(edit, 1);
             box->addWidget(button);
             connect(button, &QToolButton::clicked, this, row.click);
@@ -238,7 +254,7 @@ void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFor
     case EditorKind::Spin: {
         auto *spin = new QSpinBox;
         spin->setRange(row.min, row.max);
-        spin->setSpecialValueText(row.specialText);
+        spin->setSpecialValueText(shown(row.specialText));
         spin->setMaximumWidth(90);
         connect(spin, qOverload<int>(&QSpinBox::valueChanged), this, change);
         editor = spin;
@@ -246,11 +262,12 @@ void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFor
     }
     case EditorKind::Combo: {
         auto *combo = new QComboBox;
-        combo->addItems(row.items);
+        const QStringList items = shown(row.items);
+        combo->addItems(items);
         // Choices as long as "Groß/Kleinschreibung" show whole; longer ones
         // must not widen the narrow tool window further.
         qsizetype longest = 6;
-        for (const QString &item : row.items)
+        for (const QString &item : items)
             longest = qMax(longest, item.size());
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         combo->setMinimumContentsLength(int(qMin<qsizetype>(longest, 20)));
@@ -260,7 +277,7 @@ void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFor
     }
     case EditorKind::Radios: {
         const bool framed = row.flags & RowFlag::Framed;
-        editor = framed ? new QGroupBox(row.label) : new QWidget;
+        editor = framed ? new QGroupBox(label) : new QWidget;
         auto *grid = new QGridLayout(editor);
         if (framed)
             grid->setContentsMargins(6, 4, 6, 4);
@@ -269,7 +286,7 @@ void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFor
         grid->setSpacing(2);
         auto *group = new QButtonGroup(editor);
         for (int i = 0; i < row.items.size(); ++i) {
-            auto *radio = new QRadioButton(row.items.at(i));
+            auto *radio = new QRadioButton(shown(row.items.at(i)));
             radio->setObjectName(row.itemNames.value(i, row.name + QStringLiteral("_%1").arg(i)));
             group->addButton(radio, i);
             // Two in a row in a frame, one above the other beside a label.
@@ -284,7 +301,7 @@ void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFor
         break;
     }
     case EditorKind::Check: {
-        auto *check = new QCheckBox(row.label);
+        auto *check = new QCheckBox(label);
         connect(check, &QCheckBox::toggled, this, change);
         editor = check;
         label.clear();
@@ -302,7 +319,7 @@ void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFor
     case EditorKind::ColorButton:
     case EditorKind::FontButton: {
         const bool color = row.kind == EditorKind::ColorButton;
-        auto *button = new QPushButton(color ? QStringLiteral("Farbe…") : row.label);
+        auto *button = new QPushButton(color ? tr("Farbe…") : label);
         button->setAutoDefault(false);
         const QString caption = page.caption;
         const QString property = row.property;
@@ -318,7 +335,7 @@ void TObjInsp::buildRow(const InspectorPage &page, const InspectorRow &row, QFor
         break;
     }
     case EditorKind::Note: {
-        auto *note = new QLabel(row.label);
+        auto *note = new QLabel(label);
         note->setAlignment(Qt::AlignCenter);
         note->setFrameShape(QFrame::StyledPanel);
         editor = note;

@@ -111,8 +111,8 @@ void TObjInsp::buildPalette()
         auto *button = new QToolButton(m_palette);
         button->setObjectName(QStringLiteral("BarButton%1").arg(number++));
         button->setText(kind ? QLatin1String(kind->inspectorCaption) : page);
-        button->setToolTip(page == QLatin1String("Default") ? QStringLiteral("Seite des ausgewählten Elements")
-                                                             : QStringLiteral("Seite %1 ansehen").arg(page));
+        button->setToolTip(page == QLatin1String("Default") ? tr("Seite des ausgewählten Elements")
+                                                            : tr("Seite %1 ansehen").arg(page));
         button->setProperty("pageCaption", page);
         button->setCheckable(true);
         button->setAutoRaise(true);
@@ -151,7 +151,7 @@ void TObjInsp::BarButton2Click(QToolButton *Sender)
         m_browsedContent = scroll->widget();
         m_browsedContent->setEnabled(false);
     }
-    m_header->setText(caption + QStringLiteral(" (nur Ansicht)"));
+    m_header->setText(caption + tr(" (nur Ansicht)"));
     syncPalette();
 }
 

@@ -65,7 +65,7 @@ TfrmRule::TfrmRule(QWidget *parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmRule"));
-    setWindowTitle(QStringLiteral("Regel definieren"));
+    setWindowTitle(tr("Regel definieren"));
 
     auto *layout = new QVBoxLayout(this);
     auto *form = new QFormLayout;
@@ -73,15 +73,15 @@ TfrmRule::TfrmRule(QWidget *parent)
     m_regel = new QLineEdit;
     m_regel->setObjectName(QStringLiteral("Regel"));
     m_regel->setMinimumWidth(220);
-    form->addRow(QStringLiteral("Regel:"), m_regel);
+    form->addRow(tr("Regel:"), m_regel);
     m_feld = new QLineEdit;
     m_feld->setObjectName(QStringLiteral("Feld"));
-    form->addRow(QStringLiteral("Feld:"), m_feld);
+    form->addRow(tr("Feld:"), m_feld);
     m_farbe = new QComboBox;
     m_farbe->setObjectName(QStringLiteral("Farbe"));
     ColorCombo::fill(m_farbe);
-    form->addRow(QStringLiteral("Farbe:"), m_farbe);
-    m_zeile = new QCheckBox(QStringLiteral("auf Datensatz anwenden"));
+    form->addRow(tr("Farbe:"), m_farbe);
+    m_zeile = new QCheckBox(tr("auf Datensatz anwenden"));
     m_zeile->setObjectName(QStringLiteral("Zeile"));
     form->addRow(QString(), m_zeile);
     layout->addLayout(form);
@@ -90,7 +90,7 @@ TfrmRule::TfrmRule(QWidget *parent)
     QPushButton *ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
     ok->setObjectName(QStringLiteral("OKBtn"));
     ok->setDefault(true);
-    QPushButton *cancel = buttons->addButton(QStringLiteral("Abbruch"), QDialogButtonBox::RejectRole);
+    QPushButton *cancel = buttons->addButton(tr("Abbruch"), QDialogButtonBox::RejectRole);
     cancel->setObjectName(QStringLiteral("CancelBtn"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

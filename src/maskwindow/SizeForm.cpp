@@ -28,26 +28,24 @@ TSizeForm::TSizeForm(QWidget *parent)
     , m_sizeHeight(new QLineEdit)
 {
     setObjectName(QStringLiteral("SizeForm"));
-    setWindowTitle(QStringLiteral("Größe anpassen"));
+    setWindowTitle(tr("Größe anpassen"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     m_sizeWidth->setObjectName(QStringLiteral("SizeWidth"));
     m_sizeHeight->setObjectName(QStringLiteral("SizeHeight"));
-    QGroupBox *horizontal =
-        makeGroup(QStringLiteral("HorizontalSize"), QStringLiteral(" Breite "),
-                  {QStringLiteral("Keine Änderung"), QStringLiteral("aufs kleinste anpassen"),
-                   QStringLiteral("aufs größste anpassen"), QStringLiteral("Breite:")},
-                  m_horizontal, m_sizeWidth);
-    QGroupBox *vertical =
-        makeGroup(QStringLiteral("VerticalSize"), QStringLiteral(" Höhe "),
-                  {QStringLiteral("Keine Änderung"), QStringLiteral("aufs kleinste anpassen"),
-                   QStringLiteral("aufs größste anpassen"), QStringLiteral("Höhe:")},
-                  m_vertical, m_sizeHeight);
+    QGroupBox *horizontal
+        = makeGroup(QStringLiteral("HorizontalSize"), tr(" Breite "),
+                    {tr("Keine Änderung"), tr("aufs kleinste anpassen"), tr("aufs größste anpassen"), tr("Breite:")},
+                    m_horizontal, m_sizeWidth);
+    QGroupBox *vertical
+        = makeGroup(QStringLiteral("VerticalSize"), tr(" Höhe "),
+                    {tr("Keine Änderung"), tr("aufs kleinste anpassen"), tr("aufs größste anpassen"), tr("Höhe:")},
+                    m_vertical, m_sizeHeight);
 
     auto *ok = new QPushButton(QStringLiteral("&OK"), this);
     ok->setObjectName(QStringLiteral("OKBtn"));
     ok->setDefault(true);
-    auto *cancel = new QPushButton(QStringLiteral("&Abbrechen"), this);
+    auto *cancel = new QPushButton(tr("&Abbrechen"), this);
     cancel->setObjectName(QStringLiteral("CancelBtn"));
     connect(ok, &QPushButton::clicked, this, &TSizeForm::accept);
     connect(cancel, &QPushButton::clicked, this, &TSizeForm::reject);

@@ -44,7 +44,7 @@ void addRow(QFormLayout *form, const QString &label, QWidget *field, QWidget *bu
 TChangeStyle::TChangeStyle(QWidget *parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("ChangeStyle"));
-    setWindowTitle(QStringLiteral("Stile ändern"));
+    setWindowTitle(tr("Stile ändern"));
 
     m_borderColor = new QComboBox;
     m_borderColor->setObjectName(QStringLiteral("edBorderColor"));
@@ -66,15 +66,15 @@ TChangeStyle::TChangeStyle(QWidget *parent) : QDialog(parent)
                                      {QStringLiteral("ebtNone"), QStringLiteral("ebtInactive"),
                                       QStringLiteral("ebtAlways"), QStringLiteral("ebtHideInactive"),
                                       QStringLiteral("ebtHideUnselected")});
-    m_left = checkBox(QStringLiteral("cbLeft"), QStringLiteral("Links"));
-    m_top = checkBox(QStringLiteral("cbTop"), QStringLiteral("Oben"));
-    m_right = checkBox(QStringLiteral("cbRight"), QStringLiteral("Rechts"));
-    m_bottom = checkBox(QStringLiteral("cbBottom"), QStringLiteral("Unten"));
+    m_left = checkBox(QStringLiteral("cbLeft"), tr("Links"));
+    m_top = checkBox(QStringLiteral("cbTop"), tr("Oben"));
+    m_right = checkBox(QStringLiteral("cbRight"), tr("Rechts"));
+    m_bottom = checkBox(QStringLiteral("cbBottom"), tr("Unten"));
     m_hotTrack = checkBox(QStringLiteral("cbHotTrack"), QStringLiteral("HotTrack"));
-    m_shadow = checkBox(QStringLiteral("cbShadow"), QStringLiteral("Schatten"));
-    m_gradient = checkBox(QStringLiteral("cbGradient"), QStringLiteral("Verlauf"));
+    m_shadow = checkBox(QStringLiteral("cbShadow"), tr("Schatten"));
+    m_gradient = checkBox(QStringLiteral("cbGradient"), tr("Verlauf"));
 
-    auto *border = new QGroupBox(QStringLiteral("Rand"));
+    auto *border = new QGroupBox(tr("Rand"));
     auto *borderForm = new QFormLayout(border);
     auto *colorRow = new QHBoxLayout;
     colorRow->setSpacing(2);
@@ -83,22 +83,22 @@ TChangeStyle::TChangeStyle(QWidget *parent) : QDialog(parent)
     auto *colorField = new QWidget;
     colorField->setLayout(colorRow);
     colorRow->setContentsMargins(0, 0, 0, 0);
-    addRow(borderForm, QStringLiteral("&Farbe"), colorField, m_borderColor);
-    addRow(borderForm, QStringLiteral("St&ile"), m_borderStyle, m_borderStyle);
+    addRow(borderForm, tr("&Farbe"), colorField, m_borderColor);
+    addRow(borderForm, tr("St&ile"), m_borderStyle, m_borderStyle);
 
-    auto *buttons = new QGroupBox(QStringLiteral("Schalter"));
+    auto *buttons = new QGroupBox(tr("Schalter"));
     auto *buttonForm = new QFormLayout(buttons);
-    addRow(buttonForm, QStringLiteral("S&tile"), m_buttonStyle, m_buttonStyle);
-    addRow(buttonForm, QStringLiteral("Transparen&z"), m_buttonTransparency, m_buttonTransparency);
+    addRow(buttonForm, tr("S&tile"), m_buttonStyle, m_buttonStyle);
+    addRow(buttonForm, tr("Transparen&z"), m_buttonTransparency, m_buttonTransparency);
 
-    auto *edges = new QGroupBox(QStringLiteral("Kanten"));
+    auto *edges = new QGroupBox(tr("Kanten"));
     auto *edgeGrid = new QGridLayout(edges);
     edgeGrid->addWidget(m_left, 0, 0);
     edgeGrid->addWidget(m_top, 0, 1);
     edgeGrid->addWidget(m_right, 1, 0);
     edgeGrid->addWidget(m_bottom, 1, 1);
 
-    auto *other = new QGroupBox(QStringLiteral("Andere"));
+    auto *other = new QGroupBox(tr("Andere"));
     auto *otherBox = new QVBoxLayout(other);
     otherBox->addWidget(m_hotTrack);
     otherBox->addWidget(m_shadow);
@@ -107,7 +107,7 @@ TChangeStyle::TChangeStyle(QWidget *parent) : QDialog(parent)
     auto *ok = new QPushButton(QStringLiteral("&OK"));
     ok->setObjectName(QStringLiteral("btnOK"));
     ok->setDefault(true);
-    auto *cancel = new QPushButton(QStringLiteral("&Abbrechen"));
+    auto *cancel = new QPushButton(tr("&Abbrechen"));
     cancel->setObjectName(QStringLiteral("btnCancel"));
     auto *buttonRow = new QHBoxLayout;
     buttonRow->addStretch();
