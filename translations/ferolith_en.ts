@@ -9,6 +9,85 @@
     </message>
 </context>
 <context>
+    <name>ControlKinds</name>
+    <message>
+        <source>PageControl</source>
+        <translation>Page control</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>Beschriftung</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Beschriftungsfeld</source>
+        <translation>Data label</translation>
+    </message>
+    <message>
+        <source>Eingabefeld</source>
+        <translation>Edit field</translation>
+    </message>
+    <message>
+        <source>Auswahlfeld</source>
+        <translation>Combo box</translation>
+    </message>
+    <message>
+        <source>LookUp</source>
+        <translation>Lookup</translation>
+    </message>
+    <message>
+        <source>Memofeld</source>
+        <translation>Memo field</translation>
+    </message>
+    <message>
+        <source>Checkfeld</source>
+        <translation>Check box</translation>
+    </message>
+    <message>
+        <source>Umrahmung</source>
+        <translation>Bevel</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Bild einfügen</source>
+        <translation>Insert picture</translation>
+    </message>
+    <message>
+        <source>Formen</source>
+        <translation>Shapes</translation>
+    </message>
+    <message>
+        <source>Schalter</source>
+        <translation>Button</translation>
+    </message>
+    <message>
+        <source>Browser</source>
+        <translation>Browser</translation>
+    </message>
+    <message>
+        <source>DBTreelist</source>
+        <translation>DB tree list</translation>
+    </message>
+    <message>
+        <source>Stringgrid</source>
+        <translation>String grid</translation>
+    </message>
+    <message>
+        <source>RadioButton</source>
+        <translation>Radio group</translation>
+    </message>
+    <message>
+        <source>Vorschau</source>
+        <translation>Preview</translation>
+    </message>
+</context>
+<context>
     <name>FieldTypes</name>
     <message>
         <source>Legende:<byte value="xd"/>
@@ -275,6 +354,17 @@ S = Byte</translation>
     </message>
 </context>
 <context>
+    <name>TAboutBox</name>
+    <message>
+        <source>Programminfo</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>für Quorbex 18.x</source>
+        <translation>for Quorbex 18.x</translation>
+    </message>
+</context>
+<context>
     <name>TChangeStyle</name>
     <message>
         <source>Stile ändern</source>
@@ -449,6 +539,197 @@ S = Byte</translation>
     <message>
         <source>Bitte ändern Sie das Feld in der Maske ab.</source>
         <translation>Please change the field in the mask.</translation>
+    </message>
+</context>
+<context>
+    <name>TMainForm</name>
+    <message>
+        <source>Schriftart</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Schriftgrad</source>
+        <translation>Font size</translation>
+    </message>
+    <message>
+        <source>Schriftfarbe</source>
+        <translation>Font colour</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Fett</source>
+        <translation>Bold</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>I</translation>
+    </message>
+    <message>
+        <source>Kursiv</source>
+        <translation>Italic</translation>
+    </message>
+    <message>
+        <source>U</source>
+        <translation>U</translation>
+    </message>
+    <message>
+        <source>Unterstrichen</source>
+        <translation>Underline</translation>
+    </message>
+    <message>
+        <source>Elemente</source>
+        <translation>Elements</translation>
+    </message>
+    <message>
+        <source>Auswahl</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>Auswählen</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>Links:</source>
+        <translation>Left:</translation>
+    </message>
+    <message>
+        <source>Oben:</source>
+        <translation>Top:</translation>
+    </message>
+    <message>
+        <source>Breite:</source>
+        <translation>Width:</translation>
+    </message>
+    <message>
+        <source>Höhe:</source>
+        <translation>Height:</translation>
+    </message>
+    <message>
+        <source>Auflösung</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>Bildlaufbereich der Maske an den Bildschirm anpassen</source>
+        <translation>Fit the mask&apos;s scroll area to the screen</translation>
+    </message>
+    <message>
+        <source>&amp;Neu</source>
+        <translation>&amp;New</translation>
+    </message>
+    <message>
+        <source>&amp;Öffnen...</source>
+        <translation>&amp;Open...</translation>
+    </message>
+    <message>
+        <source>&amp;Schliessen</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>Speichern &amp;als...</source>
+        <translation>Save &amp;as...</translation>
+    </message>
+    <message>
+        <source>&amp;Beenden</source>
+        <translation>E&amp;xit</translation>
+    </message>
+    <message>
+        <source>Ausschneiden</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>&amp;Kopieren</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Einfügen</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Sperren</source>
+        <translation>Lock</translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Wiederholen</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>&amp;Objekt Inspektor</source>
+        <translation>&amp;Object inspector</translation>
+    </message>
+    <message>
+        <source>&amp;Einstellungen...</source>
+        <translation>&amp;Settings...</translation>
+    </message>
+    <message>
+        <source>S&amp;tile ändern...</source>
+        <translation>Change s&amp;tyles...</translation>
+    </message>
+    <message>
+        <source>Tabelle &amp;erzeugen...</source>
+        <translation>&amp;Create table...</translation>
+    </message>
+    <message>
+        <source>&amp;Masken Optionen</source>
+        <translation>&amp;Mask options</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeitungsmodus</source>
+        <translation>&amp;Edit mode</translation>
+    </message>
+    <message>
+        <source>&amp;Überlappen</source>
+        <translation>&amp;Cascade</translation>
+    </message>
+    <message>
+        <source>Ü&amp;bereinander</source>
+        <translation>&amp;Tile</translation>
+    </message>
+    <message>
+        <source>&amp;Anordnen</source>
+        <translation>&amp;Arrange</translation>
+    </message>
+    <message>
+        <source>Alle &amp;minimieren</source>
+        <translation>&amp;Minimise all</translation>
+    </message>
+    <message>
+        <source>&amp;Über...</source>
+        <translation>&amp;About...</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;Optionen</source>
+        <translation>&amp;Options</translation>
+    </message>
+    <message>
+        <source>&amp;Fenster</source>
+        <translation>&amp;Window</translation>
+    </message>
+    <message>
+        <source>&amp;Hilfe</source>
+        <translation>&amp;Help</translation>
     </message>
 </context>
 <context>

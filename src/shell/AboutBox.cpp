@@ -13,7 +13,7 @@ TAboutBox::TAboutBox(const QString &versionText, QWidget *parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("AboutBox"));
-    setWindowTitle(QStringLiteral("Programminfo"));
+    setWindowTitle(tr("Programminfo"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     auto *panel = new QFrame(this);
@@ -35,7 +35,7 @@ TAboutBox::TAboutBox(const QString &versionText, QWidget *parent)
     big.setBold(true);
     ProductName->setFont(big);
 
-    Copyright = new QLabel(QStringLiteral("für Quorbex 18.x"), panel);
+    Copyright = new QLabel(tr("für Quorbex 18.x"), panel);
     Copyright->setObjectName(QStringLiteral("Copyright"));
 
     Version = new QLabel(versionText, panel);

@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFontComboBox>
 #include <QHBoxLayout>
 #include <QIntValidator>
@@ -139,13 +140,13 @@ void TMainForm::createFontBar()
 
     dxBarFontNameCombo1 = new QFontComboBox(bar);
     dxBarFontNameCombo1->setObjectName(QStringLiteral("dxBarFontNameCombo1"));
-    dxBarFontNameCombo1->setToolTip(QStringLiteral("Schriftart"));
+    dxBarFontNameCombo1->setToolTip(tr("Schriftart"));
     dxBarFontNameCombo1->setMaximumWidth(170);
     bar->addWidget(dxBarFontNameCombo1);
 
     dxBarFontSize1 = new QComboBox(bar);
     dxBarFontSize1->setObjectName(QStringLiteral("dxBarFontSize1"));
-    dxBarFontSize1->setToolTip(QStringLiteral("Schriftgrad"));
+    dxBarFontSize1->setToolTip(tr("Schriftgrad"));
     dxBarFontSize1->setEditable(true);
     dxBarFontSize1->setInsertPolicy(QComboBox::NoInsert);
     dxBarFontSize1->setValidator(new QIntValidator(1, 999, dxBarFontSize1));
@@ -156,7 +157,7 @@ void TMainForm::createFontBar()
 
     dxBarColorCombo1 = new QComboBox(bar);
     dxBarColorCombo1->setObjectName(QStringLiteral("dxBarColorCombo1"));
-    dxBarColorCombo1->setToolTip(QStringLiteral("Schriftfarbe"));
+    dxBarColorCombo1->setToolTip(tr("Schriftfarbe"));
     for (const QString &name : ColorIdents()) {
         const std::optional<TColor> color = StringToColor(name);
         if (!color || color->isNone() || color->isDefault())
@@ -168,11 +169,9 @@ void TMainForm::createFontBar()
     bar->addWidget(dxBarColorCombo1);
 
     bar->addSeparator();
-    dxBarButtonBold = styleButton(bar, "dxBarButtonBold", QStringLiteral("F"), QStringLiteral("Fett"), &QFont::setBold);
-    dxBarButtonItalic = styleButton(bar, "dxBarButtonItalic", QStringLiteral("K"), QStringLiteral("Kursiv"),
-                                    &QFont::setItalic);
-    dxBarButtonUnderline = styleButton(bar, "dxBarButtonUnderline", QStringLiteral("U"),
-                                       QStringLiteral("Unterstrichen"), &QFont::setUnderline);
+    dxBarButtonBold = styleButton(bar, "dxBarButtonBold", tr("F"), tr("Fett"), &QFont::setBold);
+    dxBarButtonItalic = styleButton(bar, "dxBarButtonItalic", tr("K"), tr("Kursiv"), &QFont::setItalic);
+    dxBarButtonUnderline = styleButton(bar, "dxBarButtonUnderline", tr("U"), tr("Unterstrichen"), &QFont::setUnderline);
     bar->addWidget(dxBarButtonBold);
     bar->addWidget(dxBarButtonItalic);
     bar->addWidget(dxBarButtonUnderline);
@@ -185,7 +184,7 @@ void TMainForm::createFontBar()
 
 void TMainForm::createElementsBar()
 {
-    QToolBar *bar = createBar(ElementsBar, QStringLiteral("Elemente"));
+    QToolBar *bar = createBar(ElementsBar, tr("Elemente"));
     bar->setIconSize(QSize(24, 24));
     bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     // The palette is a wide row of captions; a step smaller and, where the
@@ -216,7 +215,7 @@ void TMainForm::createElementsBar()
 
     // The arrow is the state "nothing to place": it is part of the group so
     // choosing it releases the control button that was down.
-    QAction *arrow = addEntry("dxBarBtnDefault", QStringLiteral("Auswahl"), TPaletteCode::None, QStringLiteral("Auswählen"));
+    QAction *arrow = addEntry("dxBarBtnDefault", tr("Auswahl"), TPaletteCode::None, tr("Auswählen"));
     arrow->setChecked(true);
     bar->addSeparator();
     // The palette lists the kinds by their codes, the numbers of the mask
@@ -227,24 +226,24 @@ void TMainForm::createElementsBar()
             kinds << &kind;
     std::sort(kinds.begin(), kinds.end(), [](auto a, auto b) { return int(a->code) < int(b->code); });
     for (const TControlKind *kind : kinds)
-        addEntry(kind->paletteName, QString::fromUtf8(kind->paletteCaption), kind->code,
-                 kind->paletteHint ? QString::fromUtf8(kind->paletteHint) : QString());
+        addEntry(kind->paletteName, QCoreApplication::translate("ControlKinds", kind->paletteCaption), kind->code,
+                 kind->paletteHint ? QCoreApplication::translate("ControlKinds", kind->paletteHint) : QString());
 }
 
 void TMainForm::createModifyBar()
 {
     QToolBar *bar = createBar(ModifyMenuBar, QStringLiteral("Modify Menu"));
-    dxBarSpinLeft = positionSpin(bar, "dxBarSpinLeft", QStringLiteral("Links:"), 1);
-    dxBarSpinTop = positionSpin(bar, "dxBarSpinTop", QStringLiteral("Oben:"), 2);
-    dxBarSpinWidth = positionSpin(bar, "dxBarSpinWidth", QStringLiteral("Breite:"), 3);
-    dxBarSpinHeight = positionSpin(bar, "dxBarSpinHeight", QStringLiteral("Höhe:"), 4);
+    dxBarSpinLeft = positionSpin(bar, "dxBarSpinLeft", tr("Links:"), 1);
+    dxBarSpinTop = positionSpin(bar, "dxBarSpinTop", tr("Oben:"), 2);
+    dxBarSpinWidth = positionSpin(bar, "dxBarSpinWidth", tr("Breite:"), 3);
+    dxBarSpinHeight = positionSpin(bar, "dxBarSpinHeight", tr("Höhe:"), 4);
     bar->addSeparator();
     dxBarSpinTabOrder = positionSpin(bar, "dxBarSpinTabOrder", QStringLiteral("TabOrder:"), 0);
     dxBarSpinTabOrder->setRange(0, 9999);
     dxBarSpinTabOrder->setProperty("Tag", QVariant());
     bar->addSeparator();
 
-    auto *resLabel = new QLabel(QStringLiteral("Auflösung"), bar);
+    auto *resLabel = new QLabel(tr("Auflösung"), bar);
     resLabel->setContentsMargins(6, 0, 4, 0);
     bar->addWidget(resLabel);
     MaskResList = new QComboBox(bar);
@@ -256,7 +255,7 @@ void TMainForm::createModifyBar()
     // Scroll range back to the screen the program runs on.
     dxBarNormal = bar->addAction(QStringLiteral("Normal"));
     dxBarNormal->setObjectName(QStringLiteral("dxBarNormal"));
-    dxBarNormal->setToolTip(QStringLiteral("Bildlaufbereich der Maske an den Bildschirm anpassen"));
+    dxBarNormal->setToolTip(tr("Bildlaufbereich der Maske an den Bildschirm anpassen"));
     dxBarNormal->setEnabled(false);
 
     // Position and size follow the selected control, which the designer brings.

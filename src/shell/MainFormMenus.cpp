@@ -29,16 +29,15 @@ void TMainForm::createActions()
     using PaletteIcons::Command;
     using PaletteIcons::commandIcon;
 
-    FileNewItem = makeAction(this, "FileNewItem", QStringLiteral("&Neu"), commandIcon(Command::New),
-                             QKeySequence(Qt::CTRL | Qt::Key_N));
-    FileOpenItem = makeAction(this, "FileOpenItem", QStringLiteral("&Öffnen..."), commandIcon(Command::Open),
+    FileNewItem
+        = makeAction(this, "FileNewItem", tr("&Neu"), commandIcon(Command::New), QKeySequence(Qt::CTRL | Qt::Key_N));
+    FileOpenItem = makeAction(this, "FileOpenItem", tr("&Öffnen..."), commandIcon(Command::Open),
                               QKeySequence(Qt::CTRL | Qt::Key_O));
-    FileCloseItem = makeAction(this, "FileCloseItem", QStringLiteral("&Schliessen"), commandIcon(Command::Close));
-    FileSaveItem = makeAction(this, "FileSaveItem", QStringLiteral("&Speichern"), commandIcon(Command::Save),
+    FileCloseItem = makeAction(this, "FileCloseItem", tr("&Schliessen"), commandIcon(Command::Close));
+    FileSaveItem = makeAction(this, "FileSaveItem", tr("&Speichern"), commandIcon(Command::Save),
                               QKeySequence(Qt::CTRL | Qt::Key_S));
-    FileSaveAsItem = makeAction(this, "FileSaveAsItem", QStringLiteral("Speichern &als..."),
-                                commandIcon(Command::SaveAs));
-    FileExitItem = makeAction(this, "FileExitItem", QStringLiteral("&Beenden"), commandIcon(Command::Exit));
+    FileSaveAsItem = makeAction(this, "FileSaveAsItem", tr("Speichern &als..."), commandIcon(Command::SaveAs));
+    FileExitItem = makeAction(this, "FileExitItem", tr("&Beenden"), commandIcon(Command::Exit));
     connect(FileNewItem, &QAction::triggered, this, &TMainForm::FileNewItemClick);
     connect(FileOpenItem, &QAction::triggered, this, &TMainForm::FileOpenItemClick);
     connect(FileCloseItem, &QAction::triggered, this, &TMainForm::FileCloseItemClick);
@@ -47,46 +46,43 @@ void TMainForm::createActions()
     connect(FileExitItem, &QAction::triggered, this, &TMainForm::FileExitItemClick);
 
     // The edit commands act on the selected controls; they wait for the designer.
-    CutItem = makeAction(this, "CutItem", QStringLiteral("Ausschneiden"), commandIcon(Command::Cut));
-    CopyItem = makeAction(this, "CopyItem", QStringLiteral("&Kopieren"), commandIcon(Command::Copy));
-    PasteItem = makeAction(this, "PasteItem", QStringLiteral("&Einfügen"), commandIcon(Command::Paste));
-    DeleteItem = makeAction(this, "DeleteItem", QStringLiteral("&Löschen"), commandIcon(Command::Delete));
-    LockItem = makeAction(this, "LockItem", QStringLiteral("Sperren"), commandIcon(Command::Lock));
-    UndoItem = makeAction(this, "UndoItem", QStringLiteral("Rückgängig"), commandIcon(Command::Undo));
-    RedoItem = makeAction(this, "RedoItem", QStringLiteral("Wiederholen"), commandIcon(Command::Redo));
+    CutItem = makeAction(this, "CutItem", tr("Ausschneiden"), commandIcon(Command::Cut));
+    CopyItem = makeAction(this, "CopyItem", tr("&Kopieren"), commandIcon(Command::Copy));
+    PasteItem = makeAction(this, "PasteItem", tr("&Einfügen"), commandIcon(Command::Paste));
+    DeleteItem = makeAction(this, "DeleteItem", tr("&Löschen"), commandIcon(Command::Delete));
+    LockItem = makeAction(this, "LockItem", tr("Sperren"), commandIcon(Command::Lock));
+    UndoItem = makeAction(this, "UndoItem", tr("Rückgängig"), commandIcon(Command::Undo));
+    RedoItem = makeAction(this, "RedoItem", tr("Wiederholen"), commandIcon(Command::Redo));
     // Undo and Redo are there and deliberately do nothing: the history is
     // recorded, but loading a snapshot back is not offered.
     for (QAction *item : {CutItem, CopyItem, PasteItem, DeleteItem, LockItem})
         item->setEnabled(false);
 
-    ObjectInspectorItem = makeAction(this, "ObjectInspectorItem", QStringLiteral("&Objekt Inspektor"),
-                                     commandIcon(Command::Inspector));
-    SettingsItem = makeAction(this, "SettingsItem", QStringLiteral("&Einstellungen..."),
-                              commandIcon(Command::Settings));
-    StyleItem = makeAction(this, "StyleItem", QStringLiteral("S&tile ändern..."));
-    CreateTableItem = makeAction(this, "CreateTableItem", QStringLiteral("Tabelle &erzeugen..."),
-                                 commandIcon(Command::CreateTable));
-    dxBarButton7 = makeAction(this, "dxBarButton7", QStringLiteral("&Masken Optionen"), commandIcon(Command::MaskOptions));
+    ObjectInspectorItem
+        = makeAction(this, "ObjectInspectorItem", tr("&Objekt Inspektor"), commandIcon(Command::Inspector));
+    SettingsItem = makeAction(this, "SettingsItem", tr("&Einstellungen..."), commandIcon(Command::Settings));
+    StyleItem = makeAction(this, "StyleItem", tr("S&tile ändern..."));
+    CreateTableItem
+        = makeAction(this, "CreateTableItem", tr("Tabelle &erzeugen..."), commandIcon(Command::CreateTable));
+    dxBarButton7 = makeAction(this, "dxBarButton7", tr("&Masken Optionen"), commandIcon(Command::MaskOptions));
     connect(CreateTableItem, &QAction::triggered, this, &TMainForm::CreateTableItemClick);
     connect(dxBarButton7, &QAction::triggered, this, &TMainForm::dxBarButton7Click);
-    EditModeItem = makeAction(this, "EditModeItem", QStringLiteral("&Bearbeitungsmodus"));
+    EditModeItem = makeAction(this, "EditModeItem", tr("&Bearbeitungsmodus"));
     RunModeItem = makeAction(this, "RunModeItem", QStringLiteral("&Run Mode"));
     for (QAction *item : {ObjectInspectorItem, EditModeItem, RunModeItem})
         item->setEnabled(false);
 
-    WindowCascadeItem = makeAction(this, "WindowCascadeItem", QStringLiteral("&Überlappen"),
-                                   commandIcon(Command::Cascade));
-    WindowTileItem = makeAction(this, "WindowTileItem", QStringLiteral("Ü&bereinander"), commandIcon(Command::Tile));
-    WindowArrangeItem = makeAction(this, "WindowArrangeItem", QStringLiteral("&Anordnen"),
-                                   commandIcon(Command::Arrange));
-    WindowMinimizeItem = makeAction(this, "WindowMinimizeItem", QStringLiteral("Alle &minimieren"),
-                                    commandIcon(Command::MinimizeAll));
+    WindowCascadeItem = makeAction(this, "WindowCascadeItem", tr("&Überlappen"), commandIcon(Command::Cascade));
+    WindowTileItem = makeAction(this, "WindowTileItem", tr("Ü&bereinander"), commandIcon(Command::Tile));
+    WindowArrangeItem = makeAction(this, "WindowArrangeItem", tr("&Anordnen"), commandIcon(Command::Arrange));
+    WindowMinimizeItem
+        = makeAction(this, "WindowMinimizeItem", tr("Alle &minimieren"), commandIcon(Command::MinimizeAll));
     connect(WindowCascadeItem, &QAction::triggered, this, &TMainForm::WindowCascadeItemClick);
     connect(WindowTileItem, &QAction::triggered, this, &TMainForm::WindowTileItemClick);
     connect(WindowArrangeItem, &QAction::triggered, this, &TMainForm::WindowArrangeItemClick);
     connect(WindowMinimizeItem, &QAction::triggered, this, &TMainForm::WindowMinimizeItemClick);
 
-    HelpAboutItem = makeAction(this, "HelpAboutItem", QStringLiteral("&Über..."), commandIcon(Command::About));
+    HelpAboutItem = makeAction(this, "HelpAboutItem", tr("&Über..."), commandIcon(Command::About));
     connect(HelpAboutItem, &QAction::triggered, this, &TMainForm::HelpAboutItemClick);
 
     m_windowListGroup = new QActionGroup(this);
@@ -110,29 +106,29 @@ void TMainForm::createMenus()
         return menu;
     };
 
-    m_fileMenu = addMenu("FileMenu", QStringLiteral("&Datei"));
+    m_fileMenu = addMenu("FileMenu", tr("&Datei"));
     m_fileMenu->addActions({FileNewItem, FileOpenItem, FileCloseItem, FileSaveItem, FileSaveAsItem});
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(FileExitItem);
 
-    m_editMenu = addMenu("EditMenu", QStringLiteral("&Bearbeiten"));
+    m_editMenu = addMenu("EditMenu", tr("&Bearbeiten"));
     m_editMenu->addActions({CutItem, CopyItem, PasteItem, DeleteItem});
     m_editMenu->addSeparator();
     m_editMenu->addAction(LockItem);
 
-    m_optionsMenu = addMenu("OptionsMenu", QStringLiteral("&Optionen"));
+    m_optionsMenu = addMenu("OptionsMenu", tr("&Optionen"));
     m_optionsMenu->addActions({ObjectInspectorItem, SettingsItem, StyleItem});
     m_optionsMenu->addSeparator();
     m_optionsMenu->addActions({dxBarButton7, CreateTableItem});
     m_optionsMenu->addSeparator();
     m_optionsMenu->addActions({EditModeItem, RunModeItem});
 
-    m_windowMenu = addMenu("WindowMenu", QStringLiteral("&Fenster"));
+    m_windowMenu = addMenu("WindowMenu", tr("&Fenster"));
     m_windowMenu->addActions({WindowCascadeItem, WindowTileItem, WindowArrangeItem, WindowMinimizeItem});
     dxBarWindow = m_windowMenu->addSeparator();
     dxBarWindow->setObjectName(QStringLiteral("dxBarWindow"));
     connect(m_windowMenu, &QMenu::aboutToShow, this, &TMainForm::dxBarWindowPopup);
 
-    m_helpMenu = addMenu("HelpMenu", QStringLiteral("&Hilfe"));
+    m_helpMenu = addMenu("HelpMenu", tr("&Hilfe"));
     m_helpMenu->addAction(HelpAboutItem);
 }
