@@ -167,17 +167,14 @@ private Q_SLOTS:
             QVERIFY2(c->isEnabled(), qPrintable(c->objectName()));
         QVERIFY(child<QPushButton>(w, "ScanAlias")->isEnabled());
         QVERIFY(dialogs.messages.isEmpty());
-    }
 
-    void ignoresRegistryWithoutInstallDir()
-    {
-        writeRegistry({{"NXProtocol", 1}, {"NXConnection", true}, {"NXServer", "nexus01"}, {"LoginName", "anna"}});
-        RecordingDialogs dialogs;
-        TfrmSetup w;
-        QVERIFY(child<QRadioButton>(w, "DBLocal")->isChecked());
-        QCOMPARE(w.ServerProtokolIndex(), 0);
-        QVERIFY(child<QComboBox>(w, "DBServerName")->currentText().isEmpty());
-        QVERIFY(child<QLineEdit>(w, "Userlogin")->text().isEmpty());
+        // Without an installation folder the rest of the registry is ignored.
+        QSettings(m_registryPath, QSettings::IniFormat).remove(QStringLiteral("Installdir"));
+        TfrmSetup plain;
+        QVERIFY(child<QRadioButton>(plain, "DBLocal")->isChecked());
+        QCOMPARE(plain.ServerProtokolIndex(), 0);
+        QVERIFY(child<QComboBox>(plain, "DBServerName")->currentText().isEmpty());
+        QVERIFY(child<QLineEdit>(plain, "Userlogin")->text().isEmpty());
         QVERIFY(dialogs.messages.isEmpty());
     }
 
@@ -260,19 +257,6 @@ private Q_SLOTS:
         QCOMPARE(ini.readString(kSection, "LoginName", QString()), QStringLiteral("neu"));
         QCOMPARE(ini.readString(kSection, "Userpasswort", QString()), QStringLiteral("neupw"));
         QCOMPARE(ini.readString(kSection, "LoginPass", QString()), QStringLiteral("neupw"));
-    }
-
-    void databasePathGetsTrailingSeparator()
-    {
-        writeIni(QStringLiteral("[Configuration]\r\nDatenbankPfad=/data/db\r\n"));
-        RecordingDialogs dialogs;
-        TfrmSetup w;
-#ifdef Q_OS_WIN
-        QCOMPARE(child<QLineEdit>(w, "DBPfad")->text(), QStringLiteral("/DATA/DB\\"));
-#else
-        // Case matters on this file system: the path stays as written.
-        QCOMPARE(child<QLineEdit>(w, "DBPfad")->text(), QStringLiteral("/data/db/"));
-#endif
     }
 
     void badSettingsKeepDefaults()
