@@ -499,6 +499,18 @@ void TestStreaming::damagedInputIsRejectedCleanly()
     QVERIFY(textToBinary("object A: TLabel\n  Left = \nend\n", &error).isEmpty());
     QVERIFY(!error.isEmpty());
 
+    // Every truncation is refused; only the text form's final line break may go missing.
+    auto *label = new TLabel(&owner);
+    label->setCaption(QStringLiteral("Straße €"));
+    for (TStreamFormat format : {TStreamFormat::Binary, TStreamFormat::Text}) {
+        const QByteArray full = componentToBytes(label, format);
+        for (qsizetype cut = format == TStreamFormat::Text ? 2 : 1; cut <= full.size(); ++cut) {
+            QVERIFY2(!readBytes(full.chopped(cut), &owner, &owner, &error), qPrintable(QString::number(cut)));
+            QVERIFY(!error.isEmpty());
+        }
+    }
+    delete label;
+
     // Nesting beyond the limit: objects and lists, binary and text.
     const QByteArray head("TPF0\x06TLabel\x01" "A\x07" "Caption", 21);
     QByteArray deep("TPF0");
@@ -529,7 +541,7 @@ void TestStreaming::damagedInputIsRejectedCleanly()
     QVERIFY2(readBytes(fine, &nestOwner, &nestOwner, &error), qPrintable(error));
     QCOMPARE(Components::componentCount(&nestOwner), 40);
     QCOMPARE(Components::componentCount(&owner), 0);
-    // Random, mutated and truncated streams are the stream fuzz targets' job.
+    // Random and mutated streams are the stream fuzz targets' job.
 }
 
 void TestStreaming::unknownClassesPropertiesAndWrongValues()
