@@ -8,7 +8,6 @@
 #include "Components.h"
 #include "Containers.h"
 #include "Edits.h"
-#include "Grids.h"
 #include "ControlClasses.h"
 #include "Graphics.h"
 #include "MyBtn.h"
@@ -259,28 +258,13 @@ void TestControlLayer::everyPropertyKeepsWhatIsWritten()
         QWidget *w = createSecond(*info, &owner);
         // Indexes into pages, items and tabs depend on what there is; the
         // tests of those controls cover them.
-        const auto v = writeEveryProperty(w, {QStringLiteral("ActivePageIndex"), QStringLiteral("PageIndex"),
-                                              QStringLiteral("ItemIndex"), QStringLiteral("TabIndex")});
+        writeEveryProperty(w, {QStringLiteral("ActivePageIndex"), QStringLiteral("PageIndex"),
+                               QStringLiteral("ItemIndex"), QStringLiteral("TabIndex")});
         if (QTest::currentTestFailed())
             return;
-        // What the Qt widget underneath shows of them.
-        if (v.contains(QStringLiteral("Left")))
-            QCOMPARE(w->x(), v["Left"].toInt());
-        if (auto *c = qobject_cast<TcxComboBox *>(w)) {
-            QCOMPARE(c->count(), 2);
-            QCOMPARE(c->currentText(), v["Text"].toString());
-        } else if (auto *e = qobject_cast<QLineEdit *>(w)) {
-            QCOMPARE(e->text(), v["Text"].toString());
-            QCOMPARE(e->inputMask(), QString()); // a lookup table's name is no input mask
-        } else if (auto *b = qobject_cast<TcxDBCheckBox *>(w)) {
-            QCOMPARE(b->text(), v["Caption"].toString());
-            QCOMPARE(b->isChecked(), v["Checked"].toBool());
-        } else if (auto *g = qobject_cast<TStringGrid *>(w)) {
-            QCOMPARE(g->columnCount(), g->ColCount());
-            QCOMPARE(g->rowCount(), g->RowCount());
-        } else if (auto *d = qobject_cast<TDBGrid *>(w)) {
-            QCOMPARE(d->columnCount(), 2);
-        }
+        // The getters read the Qt widget itself; only this needs saying.
+        if (auto *lookup = qobject_cast<TcxDBPopupEdit *>(w))
+            QCOMPARE(lookup->inputMask(), QString()); // the lookup table's name is no input mask
     }
     QVERIFY(!ControlClasses::find(QStringLiteral("TForm")));
     QVERIFY(!ControlClasses::create(QStringLiteral("")));
