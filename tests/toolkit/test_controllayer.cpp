@@ -24,7 +24,7 @@ private slots:
     void captionFollowsTheNameUntilChanged();
     void autoSizeWaitsWhileLoading();
     void everyPropertyKeepsWhatIsWritten();
-    void maskButtonMarginAndTextColour();
+    void maskButtonAndDataLabel();
     void geometryIsClampedNotCrashed();
 };
 
@@ -270,7 +270,7 @@ void TestControlLayer::everyPropertyKeepsWhatIsWritten()
     QVERIFY(!ControlClasses::create(QStringLiteral("")));
 }
 
-void TestControlLayer::maskButtonMarginAndTextColour()
+void TestControlLayer::maskButtonAndDataLabel()
 {
     TMaskBtn button;
     button.classInfo().property(QStringLiteral("Margin"))->write(&button, 300);
@@ -283,6 +283,10 @@ void TestControlLayer::maskButtonMarginAndTextColour()
     QCOMPARE(button.palette().color(QPalette::ButtonText), QColor(255, 0, 0));
     button.setNormalTextColor(Colors::clGreen);
     QCOMPARE(button.palette().color(QPalette::ButtonText), QColor(0, 128, 0));
+
+    // The data label is a label with a field; the plain label has none.
+    QVERIFY(TDBLabel::staticClassInfo().property(QStringLiteral("DataField")));
+    QVERIFY(!TLabel::staticClassInfo().property(QStringLiteral("DataField")));
 }
 
 void TestControlLayer::geometryIsClampedNotCrashed()
