@@ -27,22 +27,16 @@
 using namespace Colors;
 
 namespace {
-// Also records what the window presets in the dialogs it opens.
+// Also records the colour the window presets in the colour dialog.
 class RecordingDialogs : public ScriptedDialogs
 {
 public:
     QList<TColor> colorPresets;
-    QStringList directoryCaptions;
 
     std::optional<TColor> colorDialog(QWidget *parent, TColor initial) override
     {
         colorPresets << initial;
         return ScriptedDialogs::colorDialog(parent, initial);
-    }
-    QString directoryDialog(QWidget *parent, const QString &caption, const QString &initial) override
-    {
-        directoryCaptions << caption;
-        return ScriptedDialogs::directoryDialog(parent, caption, initial);
     }
 };
 
@@ -457,30 +451,28 @@ private Q_SLOTS:
         QVERIFY(dialogs.messages.first().text.endsWith(address));
     }
 
-    void colourButtonWithoutOpenMaskRefuses()
+    void colourButtonsStartFromTheActiveMask()
     {
+        QWidget form;
+        TFormDesigner active(&form);
+        active.setMultiGrabFill(clRed);
+        active.setDesignerColor(clWindow);
+        TFormDesigner *current = nullptr;
         RecordingDialogs dialogs;
         TfrmSetup w;
-        w.activeDesigner = [] { return static_cast<TFormDesigner *>(nullptr); };
+        w.activeDesigner = [&current] { return current; };
         showAndWait(w);
+
+        // Without an open mask there is nothing to start from.
+        dialogs.messageAnswers << mrOk;
         QTest::mouseClick(child<QToolButton>(w, "btnGridColor"), Qt::LeftButton);
         QCOMPARE(dialogs.messages.size(), 1);
         QCOMPARE(dialogs.messages.first().text, QStringLiteral("Es ist keine Maske geöffnet."));
         QCOMPARE(dialogs.messages.first().type, mtInformation);
         QVERIFY(dialogs.colorPresets.isEmpty());
         QCOMPARE(w.GridColor(), clBlack);
-    }
 
-    void colourButtonStartsFromTheActiveMask()
-    {
-        QWidget form;
-        TFormDesigner active(&form);
-        active.setMultiGrabFill(clRed);
-        active.setDesignerColor(clWindow);
-        RecordingDialogs dialogs;
-        TfrmSetup w;
-        w.activeDesigner = [&active] { return &active; };
-        showAndWait(w);
+        current = &active;
         dialogs.colorAnswers << std::optional<TColor>(clBlue) << std::nullopt;
         QTest::mouseClick(child<QToolButton>(w, "btnMFill"), Qt::LeftButton);
         QTest::mouseClick(child<QToolButton>(w, "btnDesignerColor"), Qt::LeftButton);
@@ -499,7 +491,6 @@ private Q_SLOTS:
         showAndWait(w);
         dialogs.directoryAnswers << m_dir->path();
         QTest::mouseClick(child<QToolButton>(w, "btnDBPfad"), Qt::LeftButton);
-        QCOMPARE(dialogs.directoryCaptions, QStringList(QStringLiteral("Bitte wählen Sie den Datenbankpfad aus:")));
         QCOMPARE(child<QLineEdit>(w, "DBPfad")->text(), AppPaths::withTrailingSeparator(m_dir->path()));
     }
 
