@@ -146,12 +146,8 @@ private Q_SLOTS:
                        {"LoginPass", "geheim"}});
         RecordingDialogs dialogs;
         TfrmSetup w;
-        QCOMPARE(w.InstallDir(), QStringLiteral("/opt/quorbex"));
-        QVERIFY(child<QRadioButton>(w, "DBServer")->isChecked());
-        QVERIFY(!child<QRadioButton>(w, "DBLocal")->isChecked());
-        QCOMPARE(w.ServerProtokolIndex(), 2);
-        QCOMPARE(child<QComboBox>(w, "DBServerName")->currentText(), QStringLiteral("nexus01"));
-        QCOMPARE(child<QComboBox>(w, "DBAlias")->currentText(), QStringLiteral("Kunden"));
+        // Mode, server and alias are compared with the batch tool's reading
+        // below; here the login, which the settings file overrides there.
         QCOMPARE(child<QLineEdit>(w, "Userlogin")->text(), QStringLiteral("anna"));
         QCOMPARE(child<QLineEdit>(w, "Userpass")->text(), QStringLiteral("geheim"));
         for (QWidget *c : serverControls(w))
