@@ -26,9 +26,7 @@ class TestMimeType : public QObject
 private Q_SLOTS:
     void sampleMasksByNameAndContent_data();
     void sampleMasksByNameAndContent();
-    void maskWithPickListsFirstByName();
-    void tableDescriptionIsNoMask();
-    void masksOpenInTextEditors();
+    void otherMasksAndOtherFiles();
 
 private:
     QTemporaryDir m_dir;
@@ -63,30 +61,24 @@ void TestMimeType::sampleMasksByNameAndContent()
     QCOMPARE(db.mimeTypeForFile(renamed).name(), kMaskType);
 }
 
-void TestMimeType::maskWithPickListsFirstByName()
+void TestMimeType::otherMasksAndOtherFiles()
 {
-    // The pick-list blocks of combo boxes stand before the header.
-    const QString file = write(QStringLiteral("Anrede.dbm"),
-                               crlf("[Anrede]\nHerr\nFrau\n\n[Datenbank]\nTabelle=Kunden\nTitel=Kunden\n"));
-    QCOMPARE(QMimeDatabase().mimeTypeForFile(file).name(), kMaskType);
-}
+    QMimeDatabase db;
+    const QMimeType type = db.mimeTypeForName(kMaskType);
+    QVERIFY(type.isValid());
+    QVERIFY(type.inherits(QStringLiteral("text/plain"))); // masks open in text editors
+    QCOMPARE(type.suffixes(), QStringList{QStringLiteral("dbm")});
 
-void TestMimeType::tableDescriptionIsNoMask()
-{
+    // The pick-list blocks of combo boxes stand before the header: known by name.
+    const QString lists = write(QStringLiteral("Anrede.dbm"),
+                                crlf("[Anrede]\nHerr\nFrau\n\n[Datenbank]\nTabelle=Kunden\nTitel=Kunden\n"));
+    QCOMPARE(db.mimeTypeForFile(lists).name(), kMaskType);
+
+    // A table description is no mask.
     const QByteArray description = crlf("[Datenbank]\nCadPath=\nDateizaehler=\nFelder=\nFokus=NAME\nIndex=KNR\n"
                                         "[Default]\nLAND=DE\n");
-    QMimeDatabase db;
     QVERIFY(db.mimeTypeForData(description).name() != kMaskType);
-    const QString file = write(QStringLiteral("Kunden.ini"), description);
-    QVERIFY(db.mimeTypeForFile(file).name() != kMaskType);
-}
-
-void TestMimeType::masksOpenInTextEditors()
-{
-    const QMimeType type = QMimeDatabase().mimeTypeForName(kMaskType);
-    QVERIFY(type.isValid());
-    QVERIFY(type.inherits(QStringLiteral("text/plain")));
-    QCOMPARE(type.suffixes(), QStringList{QStringLiteral("dbm")});
+    QVERIFY(db.mimeTypeForFile(write(QStringLiteral("Kunden.ini"), description)).name() != kMaskType);
 }
 
 // The type is read from the package's own file, put where a desktop's

@@ -23,8 +23,6 @@
 #include "TestSupport.h"
 #include <QComboBox>
 #include "helper_shell.h"
-#include <QLineEdit>
-#include <QPushButton>
 
 using namespace ShellTest;
 

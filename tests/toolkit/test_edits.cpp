@@ -4,23 +4,17 @@
 #include <QtTest>
 
 #include <QAbstractItemView>
-#include <QHash>
 #include <QScrollBar>
 
 #include "CommonProps.h"
 #include "helper_properties.h"
 #include "Edits.h"
 
-namespace {
-
-} // namespace
-
 class TestEdits : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void everyPropertyRoundTrips();
     void charCaseConvertsTypedAndExistingText();
     void maxLengthLimitsTheUserOnly();
     void readOnlyIgnoresTheUser();
@@ -30,36 +24,6 @@ private slots:
     void designingTakesNoFocusAndNoInput();
     void colorAndFontReachThePaint();
 };
-
-void TestEdits::everyPropertyRoundTrips()
-{
-    // The descriptors and getters agree for every class (see the control
-    // layer test); here: what the Qt widget underneath shows of them.
-    QWidget owner;
-    auto *c = static_cast<TcxComboBox *>(createSecond(TcxComboBox::staticClassInfo(), &owner));
-    auto v = writeEveryProperty(c);
-    QCOMPARE(c->count(), 2);
-    QCOMPARE(c->currentText(), v["Text"].toString());
-    auto *p = static_cast<TcxDBPopupEdit *>(createSecond(TcxDBPopupEdit::staticClassInfo(), &owner));
-    writeEveryProperty(p);
-    QCOMPARE(p->inputMask(), QString()); // the lookup table's name is no input mask
-    auto *b = static_cast<TcxDBCheckBox *>(createSecond(TcxDBCheckBox::staticClassInfo(), &owner));
-    v = writeEveryProperty(b);
-    QCOMPARE(b->text(), v["Caption"].toString());
-    QCOMPARE(b->isChecked(), v["Checked"].toBool());
-    auto *e = static_cast<TcxTextEdit *>(createSecond(TcxTextEdit::staticClassInfo(), &owner));
-    v = writeEveryProperty(e);
-    QCOMPARE(e->text(), v["Text"].toString());
-    QCOMPARE(e->x(), v["Left"].toInt());
-
-    // A system colour stays symbolic through the property.
-    TcxTextEdit edit;
-    const TPropInfo *color = edit.classInfo().property(QStringLiteral("Color"));
-    color->write(&edit, QVariant::fromValue(Colors::clInfoBk));
-    QCOMPARE(color->read(&edit).value<TColor>(), Colors::clInfoBk);
-    color->write(&edit, QVariant::fromValue(Colors::clWindow));
-    QCOMPARE(color->read(&edit).value<TColor>(), Colors::clWindow);
-}
 
 void TestEdits::charCaseConvertsTypedAndExistingText()
 {

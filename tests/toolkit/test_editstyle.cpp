@@ -72,7 +72,6 @@ class TestEditStyle : public QObject
     Q_OBJECT
 
 private slots:
-    void withoutControllerTheLookStays();
     void everyEditKindTakesTheController();
     void borderStylesDrawTheirLines();
     void edgesLeaveOutUnsetSides();
@@ -80,28 +79,6 @@ private slots:
     void hotTrackHighlightsOnlyAtRunTime();
     void aChangeRepaintsAndALostControllerRestores();
 };
-
-void TestEditStyle::withoutControllerTheLookStays()
-{
-    Window w;
-    auto *plain = w.add<TcxTextEdit>({10, 10});
-    auto *styled = w.add<TcxTextEdit>({10, 50});
-    QVERIFY(w.show());
-    const QImage before = shot(styled);
-    QCOMPARE(before, shot(plain));
-
-    TcxEditStyleController style;
-    style.setBorderStyle(ebsSingle);
-    style.setBorderColor(Colors::clRed);
-    styled->setStyleController(&style);
-    QCOMPARE(styled->StyleController(), &style);
-    QVERIFY(shot(styled) != before);
-
-    styled->setStyleController(nullptr);
-    QCOMPARE(styled->StyleController(), nullptr);
-    QCOMPARE(shot(styled), before);
-    QVERIFY(plain->findChildren<QWidget *>().size() == styled->findChildren<QWidget *>().size());
-}
 
 void TestEditStyle::everyEditKindTakesTheController()
 {
@@ -325,11 +302,15 @@ void TestEditStyle::aChangeRepaintsAndALostControllerRestores()
     Window w;
     auto *plain = w.add<TcxTextEdit>({10, 10});
     auto *edit = w.add<TcxTextEdit>({10, 50});
+    QVERIFY(w.show());
+    // Without a controller an edit keeps its own look.
+    const QImage own = shot(edit);
+    QCOMPARE(own, shot(plain));
+
     auto *style = new TcxEditStyleController;
     edit->setStyleController(style);
-    QVERIFY(w.show());
+    QCOMPARE(edit->StyleController(), style);
     QCoreApplication::processEvents();
-
     PaintCounter counter;
     edit->installEventFilter(&counter);
     style->setBorderStyle(ebsNone);
@@ -341,10 +322,16 @@ void TestEditStyle::aChangeRepaintsAndALostControllerRestores()
     style->setGradient(true);
     QCoreApplication::processEvents();
     QVERIFY(counter.paints > 0);
+    QVERIFY(shot(edit) != own);
 
+    // Taken away or deleted, the controller leaves the edit as it was.
+    edit->setStyleController(nullptr);
+    QCOMPARE(shot(edit), own);
+    QCOMPARE(plain->findChildren<QWidget *>().size(), edit->findChildren<QWidget *>().size());
+    edit->setStyleController(style);
     delete style;
     QCOMPARE(edit->StyleController(), nullptr);
-    QCOMPARE(shot(edit), shot(plain));
+    QCOMPARE(shot(edit), own);
 }
 
 QTEST_MAIN(TestEditStyle)

@@ -3,7 +3,6 @@
 // the form is being designed.
 #include <QtTest>
 
-#include <QHash>
 #include <QHeaderView>
 #include <QLineEdit>
 
@@ -45,7 +44,6 @@ class TestGrids : public QObject
     Q_OBJECT
 
 private slots:
-    void everyPropertyRoundTrips();
     void dbGridColumnsBuildTheHeader();
     void titleFontStylesTheHeaderOnly();
     void treeListColumnsAndDragging();
@@ -55,20 +53,6 @@ private slots:
     void designingTakesNoFocusAndNoInput();
     void colorAndFontReachThePaint();
 };
-
-void TestGrids::everyPropertyRoundTrips()
-{
-    // The descriptors and getters agree for every class (see the control
-    // layer test); here: what the Qt widget underneath shows of them.
-    QWidget owner;
-    auto *g = static_cast<TDBGrid *>(createSecond(TDBGrid::staticClassInfo(), &owner));
-    writeEveryProperty(g);
-    QCOMPARE(g->columnCount(), 2);
-    auto *s = static_cast<TStringGrid *>(createSecond(TStringGrid::staticClassInfo(), &owner));
-    writeEveryProperty(s);
-    QCOMPARE(s->columnCount(), s->ColCount());
-    QCOMPARE(s->rowCount(), s->RowCount());
-}
 
 void TestGrids::dbGridColumnsBuildTheHeader()
 {

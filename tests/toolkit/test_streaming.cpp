@@ -126,7 +126,6 @@ private slots:
     void binaryLayoutIsFixed();
     void textFormIsReadableAndTolerant();
     void damagedInputIsRejectedCleanly();
-    void truncatedStreamsNeverCrashNorLeak();
     void unknownClassesPropertiesAndWrongValues();
     void propertiesTextRoundTrips();
     void readIntoFillsAnExistingComponent();
@@ -155,7 +154,6 @@ void TestStreaming::everyClassRoundTrips()
         QCOMPARE(textToBinary(text, &error), binary);
         QVERIFY2(error.isEmpty(), qPrintable(error));
         QCOMPARE(binaryToText(binary, &error), text);
-        QCOMPARE(binaryToText(textToBinary(text)), text);
 
         QWidget *fromBinary = readBytes(binary, &hostB, &hostB, &error);
         QVERIFY2(fromBinary, qPrintable(info->className + ": " + error));
@@ -500,19 +498,20 @@ void TestStreaming::damagedInputIsRejectedCleanly()
     QVERIFY(textToBinary("object A: TLabel\n  Left = \nend\n", &error).isEmpty());
     QVERIFY(!error.isEmpty());
 
-    // Length fields far beyond the data.
-    const QByteArray head("TPF0\x06TLabel\x01" "A\x07" "Caption", 21);
-    for (const QByteArray &value : {QByteArray("\x0c\xff\xff\xff\xff", 5), QByteArray("\x14\xff\xff\xff\x7f" "abc", 8),
-                                    QByteArray("\x06\xff" "abc", 5), QByteArray("\x07\x80", 2),
-                                    QByteArray("\x0b\x03" "abc\x40", 6), QByteArray("\x01\x02\x05", 3),
-                                    QByteArray("\x04\x01\x02", 3), QByteArray("\x05\x00\x00", 3),
-                                    QByteArray("\xff", 1), QByteArray("\x00", 1)}) {
-        error.clear();
-        QVERIFY(!readBytes(head + value + QByteArray(2, '\0'), &owner, &owner, &error));
-        QVERIFY(!error.isEmpty());
+    // Every truncation is refused; only the text form's final line break may go missing.
+    auto *label = new TLabel(&owner);
+    label->setCaption(QStringLiteral("Straße €"));
+    for (TStreamFormat format : {TStreamFormat::Binary, TStreamFormat::Text}) {
+        const QByteArray full = componentToBytes(label, format);
+        for (qsizetype cut = format == TStreamFormat::Text ? 2 : 1; cut <= full.size(); ++cut) {
+            QVERIFY2(!readBytes(full.chopped(cut), &owner, &owner, &error), qPrintable(QString::number(cut)));
+            QVERIFY(!error.isEmpty());
+        }
     }
+    delete label;
 
     // Nesting beyond the limit: objects and lists, binary and text.
+    const QByteArray head("TPF0\x06TLabel\x01" "A\x07" "Caption", 21);
     QByteArray deep("TPF0");
     QByteArray deepText;
     for (int i = 0; i < 200; ++i) {
@@ -542,36 +541,6 @@ void TestStreaming::damagedInputIsRejectedCleanly()
     QCOMPARE(Components::componentCount(&nestOwner), 40);
     QCOMPARE(Components::componentCount(&owner), 0);
     // Random and mutated streams are the stream fuzz targets' job.
-}
-
-void TestStreaming::truncatedStreamsNeverCrashNorLeak()
-{
-    QWidget host;
-    auto *pager = new TAdvOfficePager(&host);
-    pager->setObjectName(QStringLiteral("Pager1"));
-    for (int i = 0; i < 2; ++i) {
-        auto *page = new TAdvOfficePage;
-        pager->addPage(page);
-        auto *label = new TLabel(page);
-        label->setCaption(QStringLiteral("Straße €"));
-        new TcxMemo(page);
-    }
-    for (TStreamFormat format : {TStreamFormat::Binary, TStreamFormat::Text}) {
-        const QByteArray full = componentToBytes(pager, format);
-        for (qsizetype cut = 0; cut < full.size(); ++cut) {
-            QWidget owner;
-            QString error;
-            QWidget *w = readBytes(full.left(cut), &owner, &owner, &error);
-            // Only the text form's final line break may go missing.
-            const bool complete = format == TStreamFormat::Text && cut == full.size() - 1;
-            QVERIFY2(bool(w) == complete, qPrintable(QStringLiteral("cut at %1").arg(cut)));
-            if (!w) {
-                QVERIFY(!error.isEmpty());
-                QCOMPARE(Components::componentCount(&owner), 0);
-                QVERIFY(owner.findChildren<QWidget *>().isEmpty());
-            }
-        }
-    }
 }
 
 void TestStreaming::unknownClassesPropertiesAndWrongValues()
