@@ -542,6 +542,53 @@ S = Byte</translation>
     </message>
 </context>
 <context>
+    <name>TFormAlignment</name>
+    <message>
+        <source>Ausrichtung</source>
+        <translation>Alignment</translation>
+    </message>
+    <message>
+        <source>Linksbündig</source>
+        <translation>Align left edges</translation>
+    </message>
+    <message>
+        <source>Horizontal zentrieren</source>
+        <translation>Centre horizontally</translation>
+    </message>
+    <message>
+        <source>Rechtsbündig</source>
+        <translation>Align right edges</translation>
+    </message>
+    <message>
+        <source>gleicher Abstand Horizontal</source>
+        <translation>Space equally horizontally</translation>
+    </message>
+    <message>
+        <source>Horizontal ausrichten</source>
+        <translation>Centre horizontally in the window</translation>
+    </message>
+    <message>
+        <source>Oben ausrichten</source>
+        <translation>Align tops</translation>
+    </message>
+    <message>
+        <source>Vertikal zentrierern</source>
+        <translation>Centre vertically</translation>
+    </message>
+    <message>
+        <source>Unten ausrichten</source>
+        <translation>Align bottoms</translation>
+    </message>
+    <message>
+        <source>gleicher Abstand Vertikal</source>
+        <translation>Space equally vertically</translation>
+    </message>
+    <message>
+        <source>Vertikal ausrichten</source>
+        <translation>Centre vertically in the window</translation>
+    </message>
+</context>
+<context>
     <name>TMainForm</name>
     <message>
         <source>Schriftart</source>

@@ -84,7 +84,7 @@ TFormAlignment::TFormAlignment(QWidget *parent)
     : QWidget(parent, Qt::Tool)
 {
     setObjectName(QStringLiteral("FormAlignment"));
-    setWindowTitle(QStringLiteral("Ausrichtung"));
+    setWindowTitle(tr("Ausrichtung"));
 
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(4, 4, 4, 4);
@@ -96,19 +96,19 @@ TFormAlignment::TFormAlignment(QWidget *parent)
         int tag;
         bool vertical;
     } buttons[] = {
-        {"SBALeft", "Linksbündig", 1, false},
-        {"SBAHCenter", "Horizontal zentrieren", 2, false},
-        {"SBARight", "Rechtsbündig", 3, false},
-        {"SBSizeH", "gleicher Abstand Horizontal", 4, false},
-        {"SBHCenter", "Horizontal ausrichten", 5, false},
-        {"SBATop", "Oben ausrichten", 1, true},
-        {"SBAVCenter", "Vertikal zentrierern", 2, true},
-        {"SBABottom", "Unten ausrichten", 3, true},
-        {"SBSizeV", "gleicher Abstand Vertikal", 4, true},
-        {"SBVCenter", "Vertikal ausrichten", 5, true},
+        {"SBALeft", QT_TR_NOOP("Linksbündig"), 1, false},
+        {"SBAHCenter", QT_TR_NOOP("Horizontal zentrieren"), 2, false},
+        {"SBARight", QT_TR_NOOP("Rechtsbündig"), 3, false},
+        {"SBSizeH", QT_TR_NOOP("gleicher Abstand Horizontal"), 4, false},
+        {"SBHCenter", QT_TR_NOOP("Horizontal ausrichten"), 5, false},
+        {"SBATop", QT_TR_NOOP("Oben ausrichten"), 1, true},
+        {"SBAVCenter", QT_TR_NOOP("Vertikal zentrierern"), 2, true},
+        {"SBABottom", QT_TR_NOOP("Unten ausrichten"), 3, true},
+        {"SBSizeV", QT_TR_NOOP("gleicher Abstand Vertikal"), 4, true},
+        {"SBVCenter", QT_TR_NOOP("Vertikal ausrichten"), 5, true},
     };
     for (const auto &b : buttons) {
-        QToolButton *button = addButton(QString::fromLatin1(b.name), QString::fromUtf8(b.hint), b.tag, b.vertical);
+        QToolButton *button = addButton(QString::fromLatin1(b.name), tr(b.hint), b.tag, b.vertical);
         grid->addWidget(button, b.vertical ? 1 : 0, b.tag - 1);
     }
     grid->setSizeConstraint(QLayout::SetFixedSize);
