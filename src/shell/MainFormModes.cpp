@@ -8,6 +8,7 @@
 #include "RunSession.h"
 #include "SetupDialog.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -57,7 +58,12 @@ void TMainForm::RunMode1Click()
     TMaske *mask = activeMask();
     if (mask)
         mask->FormDesigner2()->setActive(false);
+    // The inspector may have held the keyboard; hidden, it hands it back to
+    // the main window so that the mask's fields take clicks and keys.
+    const bool inspectorActive = m_objInsp->isActiveWindow();
     m_objInsp->hide();
+    if (inspectorActive || !QApplication::activeWindow())
+        activateWindow();
     for (int i : kDesignBars)
         bar(i)->setVisible(false);
     if (mask && !TRunSession::of(mask->document())) {
