@@ -13,7 +13,13 @@
 #include <QDir>
 #include <QFile>
 #include <QHeaderView>
-#include <QInputDialog>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -65,6 +71,22 @@ TRunSession::TRunSession(TMaskDocument *document, QWidget *dialogParent)
             == mrYes;
     };
     createNavigator();
+    // Closing the mask window asks about the record first; Cancel keeps it open.
+    for (QWidget *w = document ? document->parentWidget() : nullptr; w; w = w->parentWidget()) {
+        if (qobject_cast<QMdiSubWindow *>(w) || w->isWindow()) {
+            w->installEventFilter(this);
+            break;
+        }
+    }
+}
+
+bool TRunSession::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close && m_bound && !askToSave()) {
+        event->ignore();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 TRunSession::~TRunSession()
@@ -508,6 +530,27 @@ bool TRunSession::Find(const QString &text)
     return moveTo(row);
 }
 
+void TRunSession::FindDialog()
+{
+    if (!m_table.isOpen() || m_table.indexColumn().isEmpty())
+        return;
+    QDialog dialog(m_dialogParent);
+    dialog.setObjectName(QStringLiteral("FindDialog"));
+    dialog.setWindowTitle(QStringLiteral("Datensatz suchen"));
+    auto *layout = new QFormLayout(&dialog);
+    auto *text = new QLineEdit(&dialog);
+    text->setObjectName(QStringLiteral("FindText"));
+    text->setMinimumWidth(240);
+    layout->addRow(QStringLiteral("Suchen nach „%1“:").arg(m_table.indexColumn()), text);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    buttons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Abbrechen"));
+    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout->addRow(buttons);
+    if (UserDialogs::instance().execDialog(&dialog) == QDialog::Accepted && !text->text().isEmpty())
+        Find(text->text());
+}
+
 QString TRunSession::statusText() const
 {
     if (!m_table.isOpen())
@@ -591,15 +634,7 @@ void TRunSession::createNavigator()
         {"NavPost", QStringLiteral("Speichern"), QKeySequence(Qt::Key_F2), [this] { Post(); }},
         {"NavDelete", QStringLiteral("Löschen"), QKeySequence(Qt::CTRL | Qt::Key_Delete), [this] { Delete(); }},
         {"NavCancel", QStringLiteral("Verwerfen"), QKeySequence(Qt::Key_Escape), [this] { Cancel(); }},
-        {"NavFind", QStringLiteral("Suchen"), QKeySequence(Qt::Key_F3),
-         [this] {
-             bool ok = false;
-             const QString text = QInputDialog::getText(m_dialogParent, QStringLiteral("Datensatz suchen"),
-                                                        QStringLiteral("Suchen nach („%1“):").arg(m_table.indexColumn()),
-                                                        QLineEdit::Normal, QString(), &ok);
-             if (ok && !text.isEmpty())
-                 Find(text);
-         }},
+        {"NavFind", QStringLiteral("Suchen"), QKeySequence(Qt::Key_F3), [this] { FindDialog(); }},
     };
     for (const Command &c : commands) {
         auto *a = new QAction(c.caption, m_navigator);

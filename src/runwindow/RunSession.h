@@ -37,6 +37,12 @@ public:
     // Asks about unsaved changes (Cancel: false, run mode stays), then puts
     // the design back.
     bool stop();
+    // Unsaved record changes: asks whether to save them (Yes saves, No drops
+    // them); false on Cancel or when the save failed.
+    bool askToSave();
+    // Asks for the text to search for and goes there.
+    void FindDialog();
+
     // The design while fn runs (saving the mask in run mode), then the record again.
     void withDesign(const std::function<void()> &fn);
 
@@ -85,7 +91,7 @@ private:
     void showRecord();
     void showEmpty();
     bool readControls(TRecord &record, QWidget **failed);
-    bool askToSave();
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void controlEdited();
     void updateActions();
     void resetGrid();

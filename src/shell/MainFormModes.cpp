@@ -51,6 +51,7 @@ void TMainForm::EditMode1Click()
     showObjectInspector();
     for (int i : kDesignBars)
         bar(i)->setVisible(true);
+    UpdateBtn();
 }
 
 void TMainForm::RunMode1Click()
@@ -75,6 +76,7 @@ void TMainForm::RunMode1Click()
         session->start(m_frmSetup->ConnectionSettings());
         updateStatusText();
     }
+    UpdateBtn();
 }
 
 void TMainForm::dxBar1024x768Click()

@@ -2,7 +2,9 @@
 // edit the records of its table, the navigator and its keys, a new record
 // with its counter number, a required field refused, the grid following,
 // a change by someone else, and the design left byte-identical.
+#include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QTest>
 #include <QToolBar>
@@ -55,6 +57,7 @@ private Q_SLOTS:
     void enterNavigateEditAndBack_data();
     void enterNavigateEditAndBack();
     void withoutTableStaysPreview();
+    void runModeKeepsItsToolsAndAsks();
 
 private:
     QTemporaryDir m_dir;
@@ -217,6 +220,67 @@ void TestRunMode::withoutTableStaysPreview()
     form.EditMode1Click();
     QCOMPARE(edit->text(), QStringLiteral("Name"));
     mask->setModified(false);
+}
+
+void TestRunMode::runModeKeepsItsToolsAndAsks()
+{
+    const TConnectionSettings settings = g_fixture->settings(QStringLiteral("sqlite"));
+    ScriptedDialogs dialogs;
+    {
+        TDbConnection connection;
+        TTableGenerator generator(connection, settings);
+        generator.TableName = QStringLiteral("Artikel");
+        dialogs.messageAnswers << mrOk;
+        generator.Rows = {fieldRow(QStringLiteral("Nummer"), QStringLiteral("A"), QStringLiteral("10"), true)};
+        QVERIFY(generator.CreateDB());
+        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Artikel\" (\"Nummer\") VALUES ('A1'), ('B2'), ('C3')"));
+    }
+    TMainForm form(QStringList{});
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    form.frmSetup()->setConnectionSettings(settings);
+    form.FileNewItemClick();
+    TMaske *mask = form.activeMask();
+    QPointer<TcxTextEdit> number =
+        qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, mask->document(), {20, 20}));
+    number->setText(QStringLiteral("Nummer"));
+    mask->document()->setTabelle(QStringLiteral("Artikel"));
+    TTableSettings ts;
+    ts.Index = QStringLiteral("Nummer");
+    mask->document()->setTableSettings(ts);
+    QCOMPARE(mask->FormDesigner2()->ControlCount(), 1);
+    form.RunMode1Click();
+    TRunSession *session = TRunSession::of(mask->document());
+    QVERIFY(session && session->hasData());
+
+    // Save As and the Delete command leave the mask in run mode and its controls alone.
+    dialogs.fileAnswers << QStringList{m_dir.filePath(QStringLiteral("Artikel.dbm"))};
+    form.FileSaveAsItemClick();
+    QVERIFY(!mask->FormDesigner2()->Active());
+    form.findChild<QAction *>(QStringLiteral("DeleteItem"))->trigger();
+    form.Lschen1Click();
+    QVERIFY(number);
+    QCOMPARE(number->text(), QStringLiteral("A1"));
+
+    // The search asks through the dialog seam.
+    dialogs.dialogAnswers << [](QDialog *dialog) {
+        dialog->findChild<QLineEdit *>()->setText(QStringLiteral("b"));
+        return int(QDialog::Accepted);
+    };
+    number->setFocus();
+    QTest::keyClick(number, Qt::Key_F3);
+    QCOMPARE(number->text(), QStringLiteral("B2"));
+
+    // Closing with a changed record asks; Cancel keeps the window, No closes it unsaved.
+    typeInto(number, QStringLiteral("X9"));
+    dialogs.messageAnswers << mrCancel;
+    QVERIFY(!mask->close());
+    QVERIFY(dialogs.messages.last().text.startsWith(QStringLiteral("Der Datensatz wurde geändert.")));
+    QCOMPARE(number->text(), QStringLiteral("X9"));
+    dialogs.messageAnswers << mrNo;
+    QVERIFY(mask->close());
+    QCOMPARE(session->table().count(), 3);
+    QCOMPARE(dialogs.unexpected, 0);
 }
 
 QTEST_MAIN(TestRunMode)
