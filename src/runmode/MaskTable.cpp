@@ -295,6 +295,49 @@ int TMaskTable::find(const QString &text, QString *errorMessage)
     return query.next() ? rowOf(query.value(0).toLongLong()) : -1;
 }
 
+QStringList TMaskTable::lookupValues(const QString &table, const QString &field, QString *errorMessage)
+{
+    const QString name = table.trimmed();
+    auto fail = [&](const QString &why) {
+        if (errorMessage)
+            *errorMessage = QStringLiteral("Die Auswahltabelle „%1“ kann nicht gelesen werden: %2").arg(name, why);
+        return QStringList();
+    };
+    if (!m_engine || name.isEmpty())
+        return fail(QStringLiteral("Keine Verbindung."));
+    if (!m_engine->tableExists(name))
+        return fail(QStringLiteral("Die Tabelle ist noch nicht erzeugt."));
+    QString error;
+    const QVector<TColumnInfo> columns = m_engine->columns(name, &error);
+    const auto columnNamed = [&](const QString &wanted) {
+        for (const TColumnInfo &c : columns)
+            if (!wanted.isEmpty() && c.Name.compare(wanted.trimmed(), Qt::CaseInsensitive) == 0)
+                return c.Name;
+        return QString();
+    };
+    QString column = columnNamed(TableDescription::read(Macros.CounterFolder, name).Index);
+    if (column.isEmpty())
+        column = columnNamed(field);
+    for (const TColumnInfo &c : columns)
+        if (column.isEmpty() && !c.Name.startsWith(QLatin1String("QX"), Qt::CaseInsensitive))
+            column = c.Name;
+    if (column.isEmpty())
+        return fail(error.isEmpty() ? QStringLiteral("Sie hat keine Datenfelder.") : error);
+    TRunField plain;
+    plain.Name = column;
+    for (const TColumnInfo &c : columns)
+        if (c.Name == column)
+            plain.Family = c.Family;
+    QSqlQuery query(m_engine->database());
+    query.setForwardOnly(true);
+    if (!query.exec(QStringLiteral("SELECT DISTINCT %1 FROM %2 WHERE %1 IS NOT NULL ORDER BY %1").arg(q(column), q(name))))
+        return fail(query.lastError().text().trimmed());
+    QStringList values;
+    while (query.next())
+        values << toText(plain, query.value(0));
+    return values;
+}
+
 bool TMaskTable::toValue(const TRunField &field, const QString &input, QVariant *value, QString *errorMessage) const
 {
     const QString text = field.Family == TValueFamily::Text || field.Family == TValueFamily::Other ? input

@@ -84,6 +84,12 @@ public:
     // The German message for the first required field left empty, or empty.
     QString checkRequired(const TRecord &record) const;
 
+    // The values a lookup field offers: the key values of another table of
+    // the same database (its index field as its description file names it,
+    // else the column named like `field`, else its first data column), sorted,
+    // each once. Empty with a German message when the table cannot be read.
+    QStringList lookupValues(const QString &table, const QString &field, QString *errorMessage = nullptr);
+
     // Text as typed into a control and the value the column stores.
     bool toValue(const TRunField &field, const QString &text, QVariant *value, QString *errorMessage) const;
     QString toText(const TRunField &field, const QVariant &value) const;

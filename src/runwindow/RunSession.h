@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QBitArray>
+#include <QHash>
+#include <QPalette>
 #include <QObject>
 #include <QPointer>
 #include <QVariant>
@@ -14,6 +16,11 @@ class QAction;
 
 class QWidget;
 class TDBGrid;
+class TcxDBPopupEdit;
+class TcxTextEdit;
+class TcxDBTreeList;
+class TMaskBtn;
+class QTreeWidgetItem;
 class TMaskDocument;
 
 // Run mode of one mask: its data controls show and edit the current record
@@ -98,6 +105,10 @@ private:
     void fillGrid();
     void gridClicked(int row);
     void applyRules();
+    void applyEditMasks();
+    void showLookup(TcxDBPopupEdit *lookup);
+    void fillTree();
+    void selectTreeItem();
     void focusField(const QString &field);
     void message(const QString &text);
 
@@ -108,6 +119,10 @@ private:
     QVector<TDesignValue> m_design;
     QVector<TBinding> m_bindings;
     QPointer<TDBGrid> m_grid;
+    QVector<QPointer<TcxDBTreeList>> m_trees;
+    QHash<qint64, QTreeWidgetItem *> m_treeItems; // of the first tree list
+    QVector<QPair<QPointer<TMaskBtn>, QPalette>> m_ruleButtons; // with the designed palette
+    QVector<QPair<QPointer<TcxTextEdit>, QString>> m_masked;    // with the edit mask
     QBitArray m_gridFilled;
     QPointer<QToolBar> m_navigator;
     TRecord m_record;   // as read (or as made new)
