@@ -566,8 +566,17 @@ bool TMaskTable::prepareForSave(TRecord &record, QString *errorMessage)
 
 TMaskTable::TSaveResult TMaskTable::insert(TRecord &record, QString *errorMessage)
 {
-    if (!m_engine || !prepareForSave(record, errorMessage))
+    if (!m_engine || !prepareForSave(record, errorMessage) || !insertRow(record, errorMessage))
         return TSaveResult::Failed;
+    const qint64 id = record.Id;
+    refresh(nullptr);
+    readRecord(id, record, false, nullptr);
+    record.Id = id;
+    return TSaveResult::Saved;
+}
+
+bool TMaskTable::insertRow(TRecord &record, QString *errorMessage)
+{
     QStringList names;
     QStringList marks;
     QVariantList values;
@@ -593,7 +602,7 @@ TMaskTable::TSaveResult TMaskTable::insert(TRecord &record, QString *errorMessag
         if (errorMessage)
             *errorMessage = QStringLiteral("Der Datensatz konnte nicht gespeichert werden:\n%1")
                                 .arg(query.lastError().text().trimmed());
-        return TSaveResult::Failed;
+        return false;
     }
     qint64 id = -1;
     if (sqlite) {
@@ -605,10 +614,87 @@ TMaskTable::TSaveResult TMaskTable::insert(TRecord &record, QString *errorMessag
             id = back.value(0).toLongLong();
     } else if (query.next())
         id = query.value(0).toLongLong();
-    refresh(nullptr);
-    readRecord(id, record, false, nullptr);
     record.Id = id;
-    return TSaveResult::Saved;
+    return true;
+}
+
+bool TMaskTable::importRecords(const QStringList &columns, const QVector<QStringList> &rows, QString *errorMessage,
+                               int firstRowNumber)
+{
+    auto fail = [&](const QString &why) {
+        if (errorMessage)
+            *errorMessage = why;
+        return false;
+    };
+    if (!m_engine)
+        return fail(QStringLiteral("Die Tabelle ist nicht geöffnet."));
+    for (const QString &name : columns)
+        if (columnOf(name).isEmpty())
+            return fail(QStringLiteral("Die Spalte „%1“ gibt es in der Tabelle „%2“ nicht.").arg(name, m_table));
+    const QStringList counted = m_settings.Dateizaehler.trimmed().isEmpty()
+        ? QStringList()
+        : TableDescription::splitFields(m_settings.Felder);
+
+    // Every row is checked before the first is written.
+    QVector<TRecord> records;
+    records.reserve(rows.size());
+    for (int i = 0; i < rows.size(); ++i) {
+        const QString where = QStringLiteral("Zeile %1: ").arg(firstRowNumber + i);
+        const QStringList &cells = rows.at(i);
+        if (cells.size() != columns.size())
+            return fail(where + QStringLiteral("%1 Werte statt %2.").arg(cells.size()).arg(columns.size()));
+        TRecord record;
+        for (const TColumnInfo &c : std::as_const(m_columns))
+            record.Values.insert(c.Name, QVariant());
+        QString error;
+        for (int c = 0; c < columns.size(); ++c)
+            if (!setText(record, columns.at(c), cells.at(c), &error))
+                return fail(where + error);
+        if (!valuesFor(QStringLiteral("AutoFill"), record, true, &error) || !applyDefaults(record, &error))
+            return fail(where + error);
+        // The counted fields get their number when the row is written.
+        TRecord checked = record;
+        for (const QString &name : counted)
+            if (isEmptyValue(checked.Values.value(columnOf(name))))
+                checked.Values.insert(columnOf(name), QStringLiteral("0"));
+        const QString missing = checkRequired(checked);
+        if (!missing.isEmpty())
+            return fail(where + missing);
+        records.append(record);
+    }
+
+    QString error;
+    if (!m_engine->beginTransaction(&error))
+        return fail(error);
+    for (int i = 0; i < records.size(); ++i) {
+        TRecord &record = records[i];
+        bool numbered = false;
+        QString number;
+        for (const QString &name : counted) {
+            if (!isEmptyValue(record.Values.value(columnOf(name))))
+                continue;
+            if (!numbered
+                && !TValueMacros::nextNumber(Macros.counterPath(m_settings.Dateizaehler.trimmed()), &number, &error)) {
+                m_engine->rollback();
+                return fail(error);
+            }
+            numbered = true;
+            if (!setText(record, name, number, &error)) {
+                m_engine->rollback();
+                return fail(QStringLiteral("Zeile %1: ").arg(firstRowNumber + i) + error);
+            }
+        }
+        if (!insertRow(record, &error)) {
+            m_engine->rollback();
+            return fail(QStringLiteral("Zeile %1: ").arg(firstRowNumber + i) + error);
+        }
+    }
+    if (!m_engine->commit(&error)) {
+        m_engine->rollback();
+        return fail(error);
+    }
+    refresh(nullptr);
+    return true;
 }
 
 TMaskTable::TSaveResult TMaskTable::update(const TRecord &original, TRecord &changed, QString *errorMessage)

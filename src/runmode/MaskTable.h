@@ -104,6 +104,15 @@ public:
     TSaveResult update(const TRecord &original, TRecord &changed, QString *errorMessage);
     bool remove(qint64 id, QString *errorMessage);
 
+    // Stores the rows of a file as new records, all or none: every row gets
+    // the auto-fill and default values where it leaves a field empty, the
+    // type and required checks, and a counter number in the "Felder" fields
+    // it leaves empty. The first bad row stops it before anything is written,
+    // with a German message naming the row (rows count from 1 after the
+    // header, firstRowNumber for the first). `columns` name mask fields.
+    bool importRecords(const QStringList &columns, const QVector<QStringList> &rows, QString *errorMessage,
+                       int firstRowNumber = 2);
+
 private:
     QString columnOf(const QString &name) const;
     QString selectList() const;
@@ -111,6 +120,7 @@ private:
     bool readRecord(qint64 id, TRecord &record, bool lock, QString *errorMessage);
     bool valuesFor(const QString &entries, TRecord &record, bool onlyEmpty, QString *errorMessage);
     bool prepareForSave(TRecord &record, QString *errorMessage);
+    bool insertRow(TRecord &record, QString *errorMessage);
 
     std::unique_ptr<TDbConnection> m_connection;
     TSqlEngine *m_engine = nullptr;
