@@ -140,6 +140,13 @@ bool TMaskTable::open(const TConnectionSettings &settings, const QString &table,
         }
     }
     m_indexColumn = columnOf(m_settings.Index.trimmed());
+    m_locator.clear();
+    if (engine->engineName() == QLatin1String("PostgreSQL"))
+        m_locator = QStringLiteral("ctid::text");
+    else if (engine->engineName() == QLatin1String("SQLite"))
+        for (const char *name : {"rowid", "_rowid_", "oid"})
+            if (m_locator.isEmpty() && columnOf(QLatin1String(name)).isEmpty())
+                m_locator = QLatin1String(name);
     Macros.CounterFolder = settings.DBPfad;
     m_engine = engine;
     return refresh(why);
@@ -184,14 +191,21 @@ bool TMaskTable::refresh(QString *errorMessage)
         order = q(m_indexColumn) + QStringLiteral(", ") + order;
     QSqlQuery query(m_engine->database());
     query.setForwardOnly(true);
-    if (!query.exec(QStringLiteral("SELECT %1 FROM %2 ORDER BY %3").arg(q(columnOf(idColumn())), q(m_table), order))) {
+    QString select = q(columnOf(idColumn()));
+    if (!m_locator.isEmpty())
+        select += QStringLiteral(", ") + m_locator;
+    if (!query.exec(QStringLiteral("SELECT %1 FROM %2 ORDER BY %3").arg(select, q(m_table), order))) {
         if (errorMessage)
             *errorMessage = query.lastError().text().trimmed();
         return false;
     }
     m_ids.clear();
-    while (query.next())
+    m_locators.clear();
+    while (query.next()) {
         m_ids.append(query.value(0).toLongLong());
+        if (!m_locator.isEmpty())
+            m_locators.append(query.value(1));
+    }
     return true;
 }
 
@@ -225,7 +239,11 @@ bool TMaskTable::fetch(int row, TRecord &record, QString *errorMessage)
 {
     if (!m_engine || row < 0 || row >= count())
         return false;
-    return readRecord(m_ids.at(row), record, false, errorMessage) && record.Id >= 0;
+    QVector<TRecord> records;
+    if (!fetchRows(row, 1, records, errorMessage) || records.isEmpty() || records.first().Values.isEmpty())
+        return false;
+    record = records.first();
+    return true;
 }
 
 bool TMaskTable::fetchRows(int first, int rows, QVector<TRecord> &records, QString *errorMessage)
@@ -237,28 +255,43 @@ bool TMaskTable::fetchRows(int first, int rows, QVector<TRecord> &records, QStri
     const int last = qMin(count(), first + rows);
     if (last <= first)
         return true;
-    QStringList marks;
-    QVariantList ids;
-    for (int i = first; i < last; ++i) {
-        marks << QStringLiteral("?");
-        ids << m_ids.at(i);
-    }
-    QSqlQuery query(m_engine->database());
-    query.setForwardOnly(true);
-    query.prepare(QStringLiteral("SELECT %1 FROM %2 WHERE %3 IN (%4)")
-                      .arg(selectList(), q(m_table), q(columnOf(idColumn())), marks.join(QLatin1Char(','))));
-    for (const QVariant &id : std::as_const(ids))
-        query.addBindValue(id);
-    if (!query.exec()) {
-        if (errorMessage)
-            *errorMessage = query.lastError().text().trimmed();
-        return false;
-    }
     QHash<qint64, TRecord> byId;
-    while (query.next()) {
-        TRecord r = recordFrom(query);
-        byId.insert(r.Id, r);
+    const auto read = [&](const QString &where, const QString &mark, const QVariantList &keys) {
+        QStringList marks;
+        for (int i = 0; i < keys.size(); ++i)
+            marks << mark;
+        QSqlQuery query(m_engine->database());
+        query.setForwardOnly(true);
+        query.prepare(QStringLiteral("SELECT %1 FROM %2 WHERE %3 IN (%4)")
+                          .arg(selectList(), q(m_table), where, marks.join(QLatin1Char(','))));
+        for (const QVariant &key : keys)
+            query.addBindValue(key);
+        if (!query.exec()) {
+            if (errorMessage)
+                *errorMessage = query.lastError().text().trimmed();
+            return false;
+        }
+        while (query.next()) {
+            TRecord r = recordFrom(query);
+            byId.insert(r.Id, r);
+        }
+        return true;
+    };
+    if (m_locators.size() == m_ids.size() && !m_locator.isEmpty()) {
+        QVariantList locators;
+        for (int i = first; i < last; ++i)
+            locators << m_locators.at(i);
+        const bool tid = m_locator.startsWith(QLatin1String("ctid"));
+        if (!read(tid ? QStringLiteral("ctid") : m_locator, tid ? QStringLiteral("?::tid") : QStringLiteral("?"), locators))
+            return false;
     }
+    // Rows moved since the list was read (changed on the server) are looked up by number.
+    QVariantList missing;
+    for (int i = first; i < last; ++i)
+        if (!byId.contains(m_ids.at(i)))
+            missing << m_ids.at(i);
+    if (!missing.isEmpty() && !read(q(columnOf(idColumn())), QStringLiteral("?"), missing))
+        return false;
     // In the list's order; a record deleted meanwhile is shown empty.
     for (int i = first; i < last; ++i) {
         TRecord r = byId.value(m_ids.at(i));
@@ -753,7 +786,10 @@ TMaskTable::TSaveResult TMaskTable::update(const TRecord &original, TRecord &cha
             *errorMessage = error;
         return TSaveResult::Failed;
     }
-    refresh(nullptr);
+    // The list is read again only when the order may have changed.
+    if (m_indexColumn.isEmpty() || changed.Values.value(m_indexColumn) != original.Values.value(m_indexColumn)
+        || !m_locator.startsWith(QLatin1String("rowid")))
+        refresh(nullptr);
     readRecord(original.Id, changed, false, nullptr);
     return TSaveResult::Saved;
 }

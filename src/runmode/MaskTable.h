@@ -131,4 +131,9 @@ private:
     QHash<QString, QString> m_columnNames; // lower case -> as in the table
     QString m_indexColumn;
     QVector<qint64> m_ids;
+    // Where the engine finds each row fastest (SQLite's row id, PostgreSQL's
+    // tuple id), read with the list: the table has no index on QXID alone.
+    // A locator that no longer leads to the record falls back to QXID.
+    QString m_locator;
+    QVector<QVariant> m_locators;
 };
