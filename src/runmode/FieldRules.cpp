@@ -42,22 +42,24 @@ QStringList maskParts(const QString &editMask)
     return parts;
 }
 
-// The mask characters and which of them are literals, as the field shows them.
-QVector<bool> literalPositions(const QString &mask)
+// The literal characters of a mask as the field shows them.
+QString literalsOf(const QString &mask)
 {
-    QVector<bool> literal;
+    QString literals;
     for (int i = 0; i < mask.size(); ++i) {
-        const QChar c = mask.at(i);
-        if (c == QLatin1Char('!') || c == QLatin1Char('>') || c == QLatin1Char('<'))
+        QChar c = mask.at(i);
+        if (c == QLatin1Char('\\') && i + 1 < mask.size())
+            c = mask.at(++i);
+        else if (QStringLiteral("LlAaCc09#!<>").contains(c))
             continue;
-        if (c == QLatin1Char('\\')) {
-            ++i;
-            literal << true;
-            continue;
-        }
-        literal << !QStringLiteral("LlAaCc09#").contains(c);
+        else if (c == QLatin1Char('/'))
+            c = QLatin1Char('.');
+        else if (c == QLatin1Char('_'))
+            c = QLatin1Char(' ');
+        if (!literals.contains(c))
+            literals += c;
     }
-    return literal;
+    return literals;
 }
 } // namespace
 
@@ -167,17 +169,15 @@ bool keepsLiterals(const QString &editMask)
 
 QString maskedValue(const QString &editMask, const QString &text)
 {
-    const QStringList parts = maskParts(editMask);
-    QString mask = parts.value(0);
-    // The literals as the field shows them (the date separator as a dot).
-    const QVector<bool> literal = literalPositions(mask);
+    // The field leaves out blanks, so the literals are found by what they are.
+    const QString literals = literalsOf(maskParts(editMask).value(0)) + QLatin1Char(' ');
     QString bare;
-    for (int i = 0; i < text.size(); ++i)
-        if (!literal.value(i, false))
-            bare += text.at(i);
-    if (bare.trimmed().isEmpty())
+    for (const QChar c : text)
+        if (!literals.contains(c))
+            bare += c;
+    if (bare.isEmpty())
         return QString();
-    return keepsLiterals(editMask) ? text.trimmed() : bare.trimmed();
+    return keepsLiterals(editMask) ? text.trimmed() : bare;
 }
 
 } // namespace FieldRules

@@ -199,6 +199,7 @@ void TestRecords::rulesAndEditMasks()
     // Required and optional digits swap places; the value drops literals when told to.
     QCOMPARE(FieldRules::inputMask(QStringLiteral("!99/99/0000;1;_")), QStringLiteral("00.00.9999;_"));
     QCOMPARE(FieldRules::maskedValue(QStringLiteral("!99/99/0000;1;_"), QStringLiteral("  .  .    ")), QString());
+    QCOMPARE(FieldRules::maskedValue(QStringLiteral("!99/99/0000;1;_"), QStringLiteral("..")), QString());
     QCOMPARE(FieldRules::maskedValue(QStringLiteral("000-00;0;_"), QStringLiteral("123-45")), QStringLiteral("12345"));
 }
 
