@@ -13,23 +13,23 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
-#include <QHeaderView>
-#include <QKeyEvent>
-#include <QListWidget>
-#include <QTreeWidget>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTreeWidgetItemIterator>
 #include <QToolBar>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 
 namespace {
 const char *const kSessionName = "RunSession";
@@ -148,7 +148,6 @@ void TRunSession::restoreDesign()
     for (TcxDBTreeList *tree : std::as_const(m_trees))
         if (tree)
             tree->clear();
-    m_treeItems.clear();
     for (const TDesignValue &value : std::as_const(m_design)) {
         QObject *component = value.component;
         const TControl *control = TControl::from(component);
@@ -637,7 +636,6 @@ void TRunSession::resetGrid()
 
 void TRunSession::fillTree()
 {
-    m_treeItems.clear();
     if (m_trees.isEmpty() || !m_table.isOpen())
         return;
     QVector<TRecord> records;
@@ -657,31 +655,31 @@ void TRunSession::fillTree()
             tree->setColumnCount(int(fields.size()));
         tree->setHeaderLabels(fields);
         tree->clear();
-        // Records whose parent is not in the table stand at the top.
-        QHash<qint64, QTreeWidgetItem *> items;
-        QHash<qint64, qint64> parents;
+        // A record hangs below the one whose key field holds its parent
+        // field's value; one whose parent is not in the table stands at the top.
+        const QString keyField = tree->KeyField().trimmed().isEmpty() ? QStringLiteral("QXID") : tree->KeyField();
+        QHash<QString, QTreeWidgetItem *> byKey;
+        QVector<QPair<QTreeWidgetItem *, QString>> items; // with the parent's key
         for (const TRecord &r : std::as_const(records)) {
             auto *item = new QTreeWidgetItem;
             for (int c = 0; c < fields.size(); ++c)
                 item->setText(c, m_table.text(r, fields.at(c)));
             item->setData(0, Qt::UserRole, r.Id);
-            items.insert(r.Id, item);
-            parents.insert(r.Id, m_table.text(r, tree->ParentField()).toLongLong());
+            byKey.insert(m_table.text(r, keyField), item);
+            items.append({item, m_table.text(r, tree->ParentField())});
         }
-        for (const TRecord &r : std::as_const(records)) {
-            QTreeWidgetItem *parent = items.value(parents.value(r.Id));
+        for (const auto &[item, parentKey] : std::as_const(items)) {
+            QTreeWidgetItem *parent = parentKey.isEmpty() ? nullptr : byKey.value(parentKey);
             // A record that is its own ancestor would hang the tree: it goes to the top.
             for (QTreeWidgetItem *p = parent; p; p = p->parent())
-                if (p == items.value(r.Id))
+                if (p == item)
                     parent = nullptr;
-            if (parent && parent != items.value(r.Id))
-                parent->addChild(items.value(r.Id));
+            if (parent)
+                parent->addChild(item);
             else
-                tree->addTopLevelItem(items.value(r.Id));
+                tree->addTopLevelItem(item);
         }
         tree->expandAll();
-        if (m_treeItems.isEmpty())
-            m_treeItems = items;
     }
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QBitArray>
-#include <QHash>
 #include <QPalette>
 #include <QObject>
 #include <QPointer>
@@ -20,7 +19,6 @@ class TcxDBPopupEdit;
 class TcxTextEdit;
 class TcxDBTreeList;
 class TMaskBtn;
-class QTreeWidgetItem;
 class TMaskDocument;
 
 // Run mode of one mask: its data controls show and edit the current record
@@ -120,7 +118,6 @@ private:
     QVector<TBinding> m_bindings;
     QPointer<TDBGrid> m_grid;
     QVector<QPointer<TcxDBTreeList>> m_trees;
-    QHash<qint64, QTreeWidgetItem *> m_treeItems; // of the first tree list
     QVector<QPair<QPointer<TMaskBtn>, QPalette>> m_ruleButtons; // with the designed palette
     QVector<QPair<QPointer<TcxTextEdit>, QString>> m_masked;    // with the edit mask
     QBitArray m_gridFilled;

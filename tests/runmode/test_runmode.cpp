@@ -302,7 +302,8 @@ void TestRunMode::controlsOfferTheirValues()
         generator.TableName = QStringLiteral("Posten");
         generator.Rows = {fieldRow(QStringLiteral("Titel"), QStringLiteral("A"), QStringLiteral("20"), true),
                           fieldRow(QStringLiteral("Ort"), QStringLiteral("A"), QStringLiteral("20")),
-                          fieldRow(QStringLiteral("Datum"), QStringLiteral("D"))};
+                          fieldRow(QStringLiteral("Datum"), QStringLiteral("D")),
+                          fieldRow(QStringLiteral("Farbe"), QStringLiteral("A"), QStringLiteral("10"))};
         QVERIFY(generator.CreateDB());
         // Two levels: "Teil" hangs below "Ganzes".
         execOk(connection.engine(), QStringLiteral("INSERT INTO \"Posten\" (\"Titel\", \"Ort\") VALUES ('Ganzes', 'Bonn')"));
@@ -321,7 +322,11 @@ void TestRunMode::controlsOfferTheirValues()
     auto *date = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, doc, {20, 80}));
     auto *button = qobject_cast<TMaskBtn *>(mask->placeControl(TPaletteCode::Button, doc, {200, 20}));
     auto *tree = qobject_cast<TcxDBTreeList *>(mask->placeControl(TPaletteCode::TreeList, doc, {200, 60}));
-    QVERIFY(title && place && date && button && tree);
+    auto *color = qobject_cast<TcxComboBox *>(mask->placeControl(TPaletteCode::Combo, doc, {20, 110}));
+    QVERIFY(title && place && date && button && tree && color);
+    color->setText(QStringLiteral("Farbe"));
+    color->setHint(QStringLiteral("Farben"));
+    QVERIFY(writeFileBytes(settings.DBPfad + QStringLiteral("Farben"), "rot\r\ngr\xfcn\r\n"));
     title->setText(QStringLiteral("Titel"));
     place->setDataField(QStringLiteral("Ort"));
     place->setEditMask(QStringLiteral("Orte"));
@@ -348,6 +353,7 @@ void TestRunMode::controlsOfferTheirValues()
     QCOMPARE(tree->topLevelItemCount(), 1);
     QCOMPARE(tree->topLevelItem(0)->child(0)->text(0), QStringLiteral("Teil"));
     QCOMPARE(button->palette().color(QPalette::Button), QColor(Qt::red));
+    QCOMPARE(color->Items(), (QStringList{QStringLiteral("rot"), QStringLiteral("grün")}));
     QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
                       tree->visualItemRect(tree->topLevelItem(0)->child(0)).center());
     QCOMPARE(title->text(), QStringLiteral("Teil"));
