@@ -261,6 +261,9 @@ void TestRunMode::runModeKeepsItsToolsAndAsks()
     dialogs.fileAnswers << QStringList{m_dir.filePath(QStringLiteral("Artikel.dbm"))};
     form.FileSaveAsItemClick();
     QVERIFY(!mask->FormDesigner2()->Active());
+    form.FileNewItemClick(); // another mask, then back to this one
+    form.mdiArea()->setActiveSubWindow(mask);
+    QVERIFY(!mask->FormDesigner2()->Active());
     form.findChild<QAction *>(QStringLiteral("DeleteItem"))->trigger();
     form.Lschen1Click();
     QVERIFY(number);
