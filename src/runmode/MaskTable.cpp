@@ -216,23 +216,34 @@ int TMaskTable::rowOf(qint64 id) const
 
 bool TMaskTable::readRecord(qint64 id, TRecord &record, bool lock, QString *errorMessage)
 {
-    QSqlQuery query(m_engine->database());
-    QString sql = QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?").arg(selectList(), q(m_table), q(columnOf(idColumn())));
-    if (lock && m_engine->engineName() != QLatin1String("SQLite"))
-        sql += QStringLiteral(" FOR UPDATE");
-    query.prepare(sql);
-    query.addBindValue(id);
-    if (!query.exec()) {
-        if (errorMessage)
-            *errorMessage = query.lastError().text().trimmed();
-        return false;
-    }
-    if (!query.next()) {
-        record = TRecord();
+    const auto read = [&](const QString &where, const QVariant &key, bool *found) {
+        QSqlQuery query(m_engine->database());
+        QString sql = QStringLiteral("SELECT %1 FROM %2 WHERE %3").arg(selectList(), q(m_table), where);
+        if (lock && m_engine->engineName() != QLatin1String("SQLite"))
+            sql += QStringLiteral(" FOR UPDATE");
+        query.prepare(sql);
+        query.addBindValue(key);
+        if (!query.exec()) {
+            if (errorMessage)
+                *errorMessage = query.lastError().text().trimmed();
+            return false;
+        }
+        *found = query.next();
+        record = *found ? recordFrom(query) : TRecord();
         return true;
+    };
+    // By the locator first; a row that is no longer there or another record
+    // sends the look-up to QXID.
+    bool found = false;
+    const int row = rowOf(id);
+    if (row >= 0 && row < m_locators.size()) {
+        const bool tid = m_locator.startsWith(QLatin1String("ctid"));
+        if (!read(tid ? QStringLiteral("ctid = ?::tid") : m_locator + QStringLiteral(" = ?"), m_locators.at(row), &found))
+            return false;
+        if (found && record.Id == id)
+            return true;
     }
-    record = recordFrom(query);
-    return true;
+    return read(q(columnOf(idColumn())) + QStringLiteral(" = ?"), id, &found);
 }
 
 bool TMaskTable::fetch(int row, TRecord &record, QString *errorMessage)
@@ -765,13 +776,22 @@ TMaskTable::TSaveResult TMaskTable::update(const TRecord &original, TRecord &cha
         sets << q(it.key()) + QStringLiteral(" = ?");
         values << it.value();
     }
-    if (!sets.isEmpty()) {
+    // The row is held: its locator still leads to it, else its number does.
+    const int row = rowOf(original.Id);
+    const bool byLocator = row >= 0 && row < m_locators.size();
+    for (int attempt = byLocator ? 0 : 1; !sets.isEmpty() && attempt < 2; ++attempt) {
+        QString where = q(columnOf(idColumn())) + QStringLiteral(" = ?");
+        if (attempt == 0)
+            where += QStringLiteral(" AND ")
+                + (m_locator.startsWith(QLatin1String("ctid")) ? QStringLiteral("ctid = ?::tid")
+                                                                : m_locator + QStringLiteral(" = ?"));
         QSqlQuery query(m_engine->database());
-        query.prepare(QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
-                          .arg(q(m_table), sets.join(QStringLiteral(", ")), q(columnOf(idColumn()))));
+        query.prepare(QStringLiteral("UPDATE %1 SET %2 WHERE %3").arg(q(m_table), sets.join(QStringLiteral(", ")), where));
         for (const QVariant &v : std::as_const(values))
             query.addBindValue(v);
         query.addBindValue(original.Id);
+        if (attempt == 0)
+            query.addBindValue(m_locators.at(row));
         if (!query.exec()) {
             error = query.lastError().text().trimmed();
             m_engine->rollback();
@@ -779,6 +799,8 @@ TMaskTable::TSaveResult TMaskTable::update(const TRecord &original, TRecord &cha
                 *errorMessage = QStringLiteral("Der Datensatz konnte nicht gespeichert werden:\n%1").arg(error);
             return TSaveResult::Failed;
         }
+        if (query.numRowsAffected() > 0)
+            break;
     }
     if (!m_engine->commit(&error)) {
         m_engine->rollback();
