@@ -8,6 +8,7 @@
 #include "AppPaths.h"
 #include "CliCommands.h"
 #include "CliDatabase.h"
+#include "CliRecords.h"
 #include "Version.h"
 
 namespace {
@@ -26,6 +27,10 @@ QString usage()
         "  create-table EIN.dbm [--keep-data|--drop-data]\n"
         "                              Tabelle der Maske in der eingestellten Datenbank erzeugen;\n"
         "                              vorhandene Daten übernehmen (Vorgabe) oder verwerfen\n"
+        "  export EIN.dbm              Datensätze der Tabelle der Maske als CSV ausgeben\n"
+        "  import EIN.dbm DATEI.csv    CSV-Datei (Kopfzeile: Feldnamen) als neue Datensätze\n"
+        "                              übernehmen, mit Vorgabewerten und Prüfungen der Maske;\n"
+        "                              eine fehlerhafte Zeile: nichts wird übernommen\n"
         "  servers                     Datenbankserver suchen (Verbindungstyp aus den Einstellungen)\n"
         "  aliases SERVER              Datenbanken eines Servers auflisten\n"
         "\n"
@@ -85,6 +90,10 @@ int main(int argc, char *argv[])
         return CliCommands::render(args, out, err);
     if (command == QLatin1String("create-table"))
         return CliDatabase::createTable(args, out, err);
+    if (command == QLatin1String("export"))
+        return CliRecords::exportRecords(args, out, err);
+    if (command == QLatin1String("import"))
+        return CliRecords::importRecords(args, out, err);
     if (command == QLatin1String("servers"))
         return CliDatabase::servers(args, out, err);
     if (command == QLatin1String("aliases"))

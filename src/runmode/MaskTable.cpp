@@ -140,6 +140,13 @@ bool TMaskTable::open(const TConnectionSettings &settings, const QString &table,
         }
     }
     m_indexColumn = columnOf(m_settings.Index.trimmed());
+    m_locator.clear();
+    if (engine->engineName() == QLatin1String("PostgreSQL"))
+        m_locator = QStringLiteral("ctid::text");
+    else if (engine->engineName() == QLatin1String("SQLite"))
+        for (const char *name : {"rowid", "_rowid_", "oid"})
+            if (m_locator.isEmpty() && columnOf(QLatin1String(name)).isEmpty())
+                m_locator = QLatin1String(name);
     Macros.CounterFolder = settings.DBPfad;
     m_engine = engine;
     return refresh(why);
@@ -184,14 +191,21 @@ bool TMaskTable::refresh(QString *errorMessage)
         order = q(m_indexColumn) + QStringLiteral(", ") + order;
     QSqlQuery query(m_engine->database());
     query.setForwardOnly(true);
-    if (!query.exec(QStringLiteral("SELECT %1 FROM %2 ORDER BY %3").arg(q(columnOf(idColumn())), q(m_table), order))) {
+    QString select = q(columnOf(idColumn()));
+    if (!m_locator.isEmpty())
+        select += QStringLiteral(", ") + m_locator;
+    if (!query.exec(QStringLiteral("SELECT %1 FROM %2 ORDER BY %3").arg(select, q(m_table), order))) {
         if (errorMessage)
             *errorMessage = query.lastError().text().trimmed();
         return false;
     }
     m_ids.clear();
-    while (query.next())
+    m_locators.clear();
+    while (query.next()) {
         m_ids.append(query.value(0).toLongLong());
+        if (!m_locator.isEmpty())
+            m_locators.append(query.value(1));
+    }
     return true;
 }
 
@@ -202,30 +216,45 @@ int TMaskTable::rowOf(qint64 id) const
 
 bool TMaskTable::readRecord(qint64 id, TRecord &record, bool lock, QString *errorMessage)
 {
-    QSqlQuery query(m_engine->database());
-    QString sql = QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?").arg(selectList(), q(m_table), q(columnOf(idColumn())));
-    if (lock && m_engine->engineName() != QLatin1String("SQLite"))
-        sql += QStringLiteral(" FOR UPDATE");
-    query.prepare(sql);
-    query.addBindValue(id);
-    if (!query.exec()) {
-        if (errorMessage)
-            *errorMessage = query.lastError().text().trimmed();
-        return false;
-    }
-    if (!query.next()) {
-        record = TRecord();
+    const auto read = [&](const QString &where, const QVariant &key, bool *found) {
+        QSqlQuery query(m_engine->database());
+        QString sql = QStringLiteral("SELECT %1 FROM %2 WHERE %3").arg(selectList(), q(m_table), where);
+        if (lock && m_engine->engineName() != QLatin1String("SQLite"))
+            sql += QStringLiteral(" FOR UPDATE");
+        query.prepare(sql);
+        query.addBindValue(key);
+        if (!query.exec()) {
+            if (errorMessage)
+                *errorMessage = query.lastError().text().trimmed();
+            return false;
+        }
+        *found = query.next();
+        record = *found ? recordFrom(query) : TRecord();
         return true;
+    };
+    // By the locator first; a row that is no longer there or another record
+    // sends the look-up to QXID.
+    bool found = false;
+    const int row = rowOf(id);
+    if (row >= 0 && row < m_locators.size()) {
+        const bool tid = m_locator.startsWith(QLatin1String("ctid"));
+        if (!read(tid ? QStringLiteral("ctid = ?::tid") : m_locator + QStringLiteral(" = ?"), m_locators.at(row), &found))
+            return false;
+        if (found && record.Id == id)
+            return true;
     }
-    record = recordFrom(query);
-    return true;
+    return read(q(columnOf(idColumn())) + QStringLiteral(" = ?"), id, &found);
 }
 
 bool TMaskTable::fetch(int row, TRecord &record, QString *errorMessage)
 {
     if (!m_engine || row < 0 || row >= count())
         return false;
-    return readRecord(m_ids.at(row), record, false, errorMessage) && record.Id >= 0;
+    QVector<TRecord> records;
+    if (!fetchRows(row, 1, records, errorMessage) || records.isEmpty() || records.first().Values.isEmpty())
+        return false;
+    record = records.first();
+    return true;
 }
 
 bool TMaskTable::fetchRows(int first, int rows, QVector<TRecord> &records, QString *errorMessage)
@@ -237,28 +266,43 @@ bool TMaskTable::fetchRows(int first, int rows, QVector<TRecord> &records, QStri
     const int last = qMin(count(), first + rows);
     if (last <= first)
         return true;
-    QStringList marks;
-    QVariantList ids;
-    for (int i = first; i < last; ++i) {
-        marks << QStringLiteral("?");
-        ids << m_ids.at(i);
-    }
-    QSqlQuery query(m_engine->database());
-    query.setForwardOnly(true);
-    query.prepare(QStringLiteral("SELECT %1 FROM %2 WHERE %3 IN (%4)")
-                      .arg(selectList(), q(m_table), q(columnOf(idColumn())), marks.join(QLatin1Char(','))));
-    for (const QVariant &id : std::as_const(ids))
-        query.addBindValue(id);
-    if (!query.exec()) {
-        if (errorMessage)
-            *errorMessage = query.lastError().text().trimmed();
-        return false;
-    }
     QHash<qint64, TRecord> byId;
-    while (query.next()) {
-        TRecord r = recordFrom(query);
-        byId.insert(r.Id, r);
+    const auto read = [&](const QString &where, const QString &mark, const QVariantList &keys) {
+        QStringList marks;
+        for (int i = 0; i < keys.size(); ++i)
+            marks << mark;
+        QSqlQuery query(m_engine->database());
+        query.setForwardOnly(true);
+        query.prepare(QStringLiteral("SELECT %1 FROM %2 WHERE %3 IN (%4)")
+                          .arg(selectList(), q(m_table), where, marks.join(QLatin1Char(','))));
+        for (const QVariant &key : keys)
+            query.addBindValue(key);
+        if (!query.exec()) {
+            if (errorMessage)
+                *errorMessage = query.lastError().text().trimmed();
+            return false;
+        }
+        while (query.next()) {
+            TRecord r = recordFrom(query);
+            byId.insert(r.Id, r);
+        }
+        return true;
+    };
+    if (m_locators.size() == m_ids.size() && !m_locator.isEmpty()) {
+        QVariantList locators;
+        for (int i = first; i < last; ++i)
+            locators << m_locators.at(i);
+        const bool tid = m_locator.startsWith(QLatin1String("ctid"));
+        if (!read(tid ? QStringLiteral("ctid") : m_locator, tid ? QStringLiteral("?::tid") : QStringLiteral("?"), locators))
+            return false;
     }
+    // Rows moved since the list was read (changed on the server) are looked up by number.
+    QVariantList missing;
+    for (int i = first; i < last; ++i)
+        if (!byId.contains(m_ids.at(i)))
+            missing << m_ids.at(i);
+    if (!missing.isEmpty() && !read(q(columnOf(idColumn())), QStringLiteral("?"), missing))
+        return false;
     // In the list's order; a record deleted meanwhile is shown empty.
     for (int i = first; i < last; ++i) {
         TRecord r = byId.value(m_ids.at(i));
@@ -293,6 +337,49 @@ int TMaskTable::find(const QString &text, QString *errorMessage)
         return -1;
     }
     return query.next() ? rowOf(query.value(0).toLongLong()) : -1;
+}
+
+QStringList TMaskTable::lookupValues(const QString &table, const QString &field, QString *errorMessage)
+{
+    const QString name = table.trimmed();
+    auto fail = [&](const QString &why) {
+        if (errorMessage)
+            *errorMessage = QStringLiteral("Die Auswahltabelle „%1“ kann nicht gelesen werden: %2").arg(name, why);
+        return QStringList();
+    };
+    if (!m_engine || name.isEmpty())
+        return fail(QStringLiteral("Keine Verbindung."));
+    if (!m_engine->tableExists(name))
+        return fail(QStringLiteral("Die Tabelle ist noch nicht erzeugt."));
+    QString error;
+    const QVector<TColumnInfo> columns = m_engine->columns(name, &error);
+    const auto columnNamed = [&](const QString &wanted) {
+        for (const TColumnInfo &c : columns)
+            if (!wanted.isEmpty() && c.Name.compare(wanted.trimmed(), Qt::CaseInsensitive) == 0)
+                return c.Name;
+        return QString();
+    };
+    QString column = columnNamed(TableDescription::read(Macros.CounterFolder, name).Index);
+    if (column.isEmpty())
+        column = columnNamed(field);
+    for (const TColumnInfo &c : columns)
+        if (column.isEmpty() && !c.Name.startsWith(QLatin1String("QX"), Qt::CaseInsensitive))
+            column = c.Name;
+    if (column.isEmpty())
+        return fail(error.isEmpty() ? QStringLiteral("Sie hat keine Datenfelder.") : error);
+    TRunField plain;
+    plain.Name = column;
+    for (const TColumnInfo &c : columns)
+        if (c.Name == column)
+            plain.Family = c.Family;
+    QSqlQuery query(m_engine->database());
+    query.setForwardOnly(true);
+    if (!query.exec(QStringLiteral("SELECT DISTINCT %1 FROM %2 WHERE %1 IS NOT NULL ORDER BY %1").arg(q(column), q(name))))
+        return fail(query.lastError().text().trimmed());
+    QStringList values;
+    while (query.next())
+        values << toText(plain, query.value(0));
+    return values;
 }
 
 bool TMaskTable::toValue(const TRunField &field, const QString &input, QVariant *value, QString *errorMessage) const
@@ -523,8 +610,17 @@ bool TMaskTable::prepareForSave(TRecord &record, QString *errorMessage)
 
 TMaskTable::TSaveResult TMaskTable::insert(TRecord &record, QString *errorMessage)
 {
-    if (!m_engine || !prepareForSave(record, errorMessage))
+    if (!m_engine || !prepareForSave(record, errorMessage) || !insertRow(record, errorMessage))
         return TSaveResult::Failed;
+    const qint64 id = record.Id;
+    refresh(nullptr);
+    readRecord(id, record, false, nullptr);
+    record.Id = id;
+    return TSaveResult::Saved;
+}
+
+bool TMaskTable::insertRow(TRecord &record, QString *errorMessage)
+{
     QStringList names;
     QStringList marks;
     QVariantList values;
@@ -550,7 +646,7 @@ TMaskTable::TSaveResult TMaskTable::insert(TRecord &record, QString *errorMessag
         if (errorMessage)
             *errorMessage = QStringLiteral("Der Datensatz konnte nicht gespeichert werden:\n%1")
                                 .arg(query.lastError().text().trimmed());
-        return TSaveResult::Failed;
+        return false;
     }
     qint64 id = -1;
     if (sqlite) {
@@ -562,10 +658,87 @@ TMaskTable::TSaveResult TMaskTable::insert(TRecord &record, QString *errorMessag
             id = back.value(0).toLongLong();
     } else if (query.next())
         id = query.value(0).toLongLong();
-    refresh(nullptr);
-    readRecord(id, record, false, nullptr);
     record.Id = id;
-    return TSaveResult::Saved;
+    return true;
+}
+
+bool TMaskTable::importRecords(const QStringList &columns, const QVector<QStringList> &rows, QString *errorMessage,
+                               int firstRowNumber)
+{
+    auto fail = [&](const QString &why) {
+        if (errorMessage)
+            *errorMessage = why;
+        return false;
+    };
+    if (!m_engine)
+        return fail(QStringLiteral("Die Tabelle ist nicht geöffnet."));
+    for (const QString &name : columns)
+        if (columnOf(name).isEmpty())
+            return fail(QStringLiteral("Die Spalte „%1“ gibt es in der Tabelle „%2“ nicht.").arg(name, m_table));
+    const QStringList counted = m_settings.Dateizaehler.trimmed().isEmpty()
+        ? QStringList()
+        : TableDescription::splitFields(m_settings.Felder);
+
+    // Every row is checked before the first is written.
+    QVector<TRecord> records;
+    records.reserve(rows.size());
+    for (int i = 0; i < rows.size(); ++i) {
+        const QString where = QStringLiteral("Zeile %1: ").arg(firstRowNumber + i);
+        const QStringList &cells = rows.at(i);
+        if (cells.size() != columns.size())
+            return fail(where + QStringLiteral("%1 Werte statt %2.").arg(cells.size()).arg(columns.size()));
+        TRecord record;
+        for (const TColumnInfo &c : std::as_const(m_columns))
+            record.Values.insert(c.Name, QVariant());
+        QString error;
+        for (int c = 0; c < columns.size(); ++c)
+            if (!setText(record, columns.at(c), cells.at(c), &error))
+                return fail(where + error);
+        if (!valuesFor(QStringLiteral("AutoFill"), record, true, &error) || !applyDefaults(record, &error))
+            return fail(where + error);
+        // The counted fields get their number when the row is written.
+        TRecord checked = record;
+        for (const QString &name : counted)
+            if (isEmptyValue(checked.Values.value(columnOf(name))))
+                checked.Values.insert(columnOf(name), QStringLiteral("0"));
+        const QString missing = checkRequired(checked);
+        if (!missing.isEmpty())
+            return fail(where + missing);
+        records.append(record);
+    }
+
+    QString error;
+    if (!m_engine->beginTransaction(&error))
+        return fail(error);
+    for (int i = 0; i < records.size(); ++i) {
+        TRecord &record = records[i];
+        bool numbered = false;
+        QString number;
+        for (const QString &name : counted) {
+            if (!isEmptyValue(record.Values.value(columnOf(name))))
+                continue;
+            if (!numbered
+                && !TValueMacros::nextNumber(Macros.counterPath(m_settings.Dateizaehler.trimmed()), &number, &error)) {
+                m_engine->rollback();
+                return fail(error);
+            }
+            numbered = true;
+            if (!setText(record, name, number, &error)) {
+                m_engine->rollback();
+                return fail(QStringLiteral("Zeile %1: ").arg(firstRowNumber + i) + error);
+            }
+        }
+        if (!insertRow(record, &error)) {
+            m_engine->rollback();
+            return fail(QStringLiteral("Zeile %1: ").arg(firstRowNumber + i) + error);
+        }
+    }
+    if (!m_engine->commit(&error)) {
+        m_engine->rollback();
+        return fail(error);
+    }
+    refresh(nullptr);
+    return true;
 }
 
 TMaskTable::TSaveResult TMaskTable::update(const TRecord &original, TRecord &changed, QString *errorMessage)
@@ -603,13 +776,22 @@ TMaskTable::TSaveResult TMaskTable::update(const TRecord &original, TRecord &cha
         sets << q(it.key()) + QStringLiteral(" = ?");
         values << it.value();
     }
-    if (!sets.isEmpty()) {
+    // The row is held: its locator still leads to it, else its number does.
+    const int row = rowOf(original.Id);
+    const bool byLocator = row >= 0 && row < m_locators.size();
+    for (int attempt = byLocator ? 0 : 1; !sets.isEmpty() && attempt < 2; ++attempt) {
+        QString where = q(columnOf(idColumn())) + QStringLiteral(" = ?");
+        if (attempt == 0)
+            where += QStringLiteral(" AND ")
+                + (m_locator.startsWith(QLatin1String("ctid")) ? QStringLiteral("ctid = ?::tid")
+                                                                : m_locator + QStringLiteral(" = ?"));
         QSqlQuery query(m_engine->database());
-        query.prepare(QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
-                          .arg(q(m_table), sets.join(QStringLiteral(", ")), q(columnOf(idColumn()))));
+        query.prepare(QStringLiteral("UPDATE %1 SET %2 WHERE %3").arg(q(m_table), sets.join(QStringLiteral(", ")), where));
         for (const QVariant &v : std::as_const(values))
             query.addBindValue(v);
         query.addBindValue(original.Id);
+        if (attempt == 0)
+            query.addBindValue(m_locators.at(row));
         if (!query.exec()) {
             error = query.lastError().text().trimmed();
             m_engine->rollback();
@@ -617,6 +799,8 @@ TMaskTable::TSaveResult TMaskTable::update(const TRecord &original, TRecord &cha
                 *errorMessage = QStringLiteral("Der Datensatz konnte nicht gespeichert werden:\n%1").arg(error);
             return TSaveResult::Failed;
         }
+        if (query.numRowsAffected() > 0)
+            break;
     }
     if (!m_engine->commit(&error)) {
         m_engine->rollback();
@@ -624,7 +808,10 @@ TMaskTable::TSaveResult TMaskTable::update(const TRecord &original, TRecord &cha
             *errorMessage = error;
         return TSaveResult::Failed;
     }
-    refresh(nullptr);
+    // The list is read again only when the order may have changed.
+    if (m_indexColumn.isEmpty() || changed.Values.value(m_indexColumn) != original.Values.value(m_indexColumn)
+        || !m_locator.startsWith(QLatin1String("rowid")))
+        refresh(nullptr);
     readRecord(original.Id, changed, false, nullptr);
     return TSaveResult::Saved;
 }

@@ -84,6 +84,12 @@ public:
     // The German message for the first required field left empty, or empty.
     QString checkRequired(const TRecord &record) const;
 
+    // The values a lookup field offers: the key values of another table of
+    // the same database (its index field as its description file names it,
+    // else the column named like `field`, else its first data column), sorted,
+    // each once. Empty with a German message when the table cannot be read.
+    QStringList lookupValues(const QString &table, const QString &field, QString *errorMessage = nullptr);
+
     // Text as typed into a control and the value the column stores.
     bool toValue(const TRunField &field, const QString &text, QVariant *value, QString *errorMessage) const;
     QString toText(const TRunField &field, const QVariant &value) const;
@@ -98,6 +104,15 @@ public:
     TSaveResult update(const TRecord &original, TRecord &changed, QString *errorMessage);
     bool remove(qint64 id, QString *errorMessage);
 
+    // Stores the rows of a file as new records, all or none: every row gets
+    // the auto-fill and default values where it leaves a field empty, the
+    // type and required checks, and a counter number in the "Felder" fields
+    // it leaves empty. The first bad row stops it before anything is written,
+    // with a German message naming the row (rows count from 1 after the
+    // header, firstRowNumber for the first). `columns` name mask fields.
+    bool importRecords(const QStringList &columns, const QVector<QStringList> &rows, QString *errorMessage,
+                       int firstRowNumber = 2);
+
 private:
     QString columnOf(const QString &name) const;
     QString selectList() const;
@@ -105,6 +120,7 @@ private:
     bool readRecord(qint64 id, TRecord &record, bool lock, QString *errorMessage);
     bool valuesFor(const QString &entries, TRecord &record, bool onlyEmpty, QString *errorMessage);
     bool prepareForSave(TRecord &record, QString *errorMessage);
+    bool insertRow(TRecord &record, QString *errorMessage);
 
     std::unique_ptr<TDbConnection> m_connection;
     TSqlEngine *m_engine = nullptr;
@@ -115,4 +131,9 @@ private:
     QHash<QString, QString> m_columnNames; // lower case -> as in the table
     QString m_indexColumn;
     QVector<qint64> m_ids;
+    // Where the engine finds each row fastest (SQLite's row id, PostgreSQL's
+    // tuple id), read with the list: the table has no index on QXID alone.
+    // A locator that no longer leads to the record falls back to QXID.
+    QString m_locator;
+    QVector<QVariant> m_locators;
 };

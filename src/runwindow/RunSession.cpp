@@ -3,6 +3,7 @@
 #include "Components.h"
 #include "Containers.h"
 #include "Edits.h"
+#include "FieldRules.h"
 #include "Grids.h"
 #include "MaskDocument.h"
 #include "MyBtn.h"
@@ -12,12 +13,23 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFormLayout>
 #include <QHeaderView>
-#include <QInputDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMdiSubWindow>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QToolBar>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 
 namespace {
 const char *const kSessionName = "RunSession";
@@ -65,6 +77,32 @@ TRunSession::TRunSession(TMaskDocument *document, QWidget *dialogParent)
             == mrYes;
     };
     createNavigator();
+    // Closing the mask window asks about the record first; Cancel keeps it open.
+    for (QWidget *w = document ? document->parentWidget() : nullptr; w; w = w->parentWidget()) {
+        if (qobject_cast<QMdiSubWindow *>(w) || w->isWindow()) {
+            w->installEventFilter(this);
+            break;
+        }
+    }
+}
+
+bool TRunSession::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close && m_bound && !askToSave()) {
+        event->ignore();
+        return true;
+    }
+    // F4 and Alt+Down open a lookup's list, as the drop-down button does.
+    if (event->type() == QEvent::KeyPress && m_bound) {
+        if (auto *lookup = qobject_cast<TcxDBPopupEdit *>(watched)) {
+            const auto *key = static_cast<QKeyEvent *>(event);
+            if (key->key() == Qt::Key_F4 || (key->key() == Qt::Key_Down && key->modifiers() & Qt::AltModifier)) {
+                showLookup(lookup);
+                return true;
+            }
+        }
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 TRunSession::~TRunSession()
@@ -100,6 +138,16 @@ void TRunSession::snapshotDesign()
 void TRunSession::restoreDesign()
 {
     m_filling = true;
+    // The run-time settings first, so that the designed texts go in unmasked.
+    for (const auto &[edit, mask] : std::as_const(m_masked))
+        if (edit)
+            edit->setInputMask(QString());
+    for (const auto &[button, palette] : std::as_const(m_ruleButtons))
+        if (button)
+            button->setPalette(palette);
+    for (TcxDBTreeList *tree : std::as_const(m_trees))
+        if (tree)
+            tree->clear();
     for (const TDesignValue &value : std::as_const(m_design)) {
         QObject *component = value.component;
         const TControl *control = TControl::from(component);
@@ -129,6 +177,7 @@ void TRunSession::withDesign(const std::function<void()> &fn)
     readControls(typed, nullptr);
     restoreDesign();
     fn();
+    fillTree();
     const bool modified = m_modified;
     const TRecord read = m_record;
     m_record = typed;
@@ -170,6 +219,9 @@ bool TRunSession::stop()
 void TRunSession::bindControls()
 {
     m_bindings.clear();
+    m_trees.clear();
+    m_ruleButtons.clear();
+    m_masked.clear();
     for (QObject *component : Components::components(m_document)) {
         auto *widget = qobject_cast<QWidget *>(component);
         if (auto *grid = qobject_cast<TDBGrid *>(component)) {
@@ -185,11 +237,31 @@ void TRunSession::bindControls()
             }
             continue;
         }
+        if (auto *tree = qobject_cast<TcxDBTreeList *>(component)) {
+            m_trees.append(tree);
+            connect(tree, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem *item) {
+                if (!moveTo(m_table.rowOf(item->data(0, Qt::UserRole).toLongLong())))
+                    selectTreeItem();
+            });
+            continue;
+        }
+        if (auto *button = qobject_cast<TMaskBtn *>(component)) {
+            if (!button->RegelAusdruck().trimmed().isEmpty())
+                m_ruleButtons.append({button, button->palette()});
+            continue;
+        }
         const QString field = fieldOf(component);
         if (!widget || field.isEmpty())
             continue;
         m_bindings.append({widget, field});
-        if (auto *edit = qobject_cast<TcxTextEdit *>(widget)) {
+        if (auto *lookup = qobject_cast<TcxDBPopupEdit *>(widget)) {
+            connect(lookup, &QLineEdit::textEdited, this, &TRunSession::controlEdited, Qt::UniqueConnection);
+            connect(lookup, &TcxDBPopupEdit::popupRequested, this, [this, lookup] { showLookup(lookup); });
+            lookup->installEventFilter(this);
+        } else if (auto *edit = qobject_cast<TcxTextEdit *>(widget)) {
+            const QString mask = edit->Hint().trimmed();
+            if (!mask.isEmpty() && mask != QLatin1String("TcxTextEdit") && !FieldRules::inputMask(mask).isEmpty())
+                m_masked.append({edit, mask});
             connect(edit, &QLineEdit::textEdited, this, &TRunSession::controlEdited, Qt::UniqueConnection);
         } else if (auto *combo = qobject_cast<TcxComboBox *>(widget)) {
             // The pick list: one value a line in the file named by the combo's Hint.
@@ -225,9 +297,17 @@ void TRunSession::controlEdited()
     }
 }
 
+void TRunSession::applyEditMasks()
+{
+    for (const auto &[edit, mask] : std::as_const(m_masked))
+        if (edit && edit->inputMask().isEmpty())
+            edit->setInputMask(FieldRules::inputMask(mask));
+}
+
 void TRunSession::showRecord()
 {
     m_filling = true;
+    applyEditMasks();
     for (const TBinding &b : std::as_const(m_bindings)) {
         QWidget *w = b.control;
         if (!w)
@@ -255,6 +335,7 @@ void TRunSession::showRecord()
     m_filling = false;
     m_modified = false;
     applyRules();
+    selectTreeItem();
     if (m_grid && m_row >= 0 && m_row < m_grid->rowCount()) {
         m_grid->selectRow(m_row);
         m_grid->scrollToItem(m_grid->item(m_row, 0));
@@ -278,8 +359,12 @@ bool TRunSession::readControls(TRecord &record, QWidget **failed)
         if (!w || qobject_cast<TDBLabel *>(w))
             continue;
         QString text;
-        if (auto *edit = qobject_cast<TcxTextEdit *>(w))
+        if (auto *edit = qobject_cast<TcxTextEdit *>(w)) {
             text = edit->text();
+            for (const auto &[masked, mask] : std::as_const(m_masked))
+                if (masked == edit)
+                    text = FieldRules::maskedValue(mask, text);
+        }
         else if (auto *combo = qobject_cast<TcxComboBox *>(w))
             text = combo->Text();
         else if (auto *memo = qobject_cast<TcxMemo *>(w))
@@ -508,6 +593,27 @@ bool TRunSession::Find(const QString &text)
     return moveTo(row);
 }
 
+void TRunSession::FindDialog()
+{
+    if (!m_table.isOpen() || m_table.indexColumn().isEmpty())
+        return;
+    QDialog dialog(m_dialogParent);
+    dialog.setObjectName(QStringLiteral("FindDialog"));
+    dialog.setWindowTitle(QStringLiteral("Datensatz suchen"));
+    auto *layout = new QFormLayout(&dialog);
+    auto *text = new QLineEdit(&dialog);
+    text->setObjectName(QStringLiteral("FindText"));
+    text->setMinimumWidth(240);
+    layout->addRow(QStringLiteral("Suchen nach „%1“:").arg(m_table.indexColumn()), text);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    buttons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Abbrechen"));
+    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout->addRow(buttons);
+    if (UserDialogs::instance().execDialog(&dialog) == QDialog::Accepted && !text->text().isEmpty())
+        Find(text->text());
+}
+
 QString TRunSession::statusText() const
 {
     if (!m_table.isOpen())
@@ -519,12 +625,112 @@ QString TRunSession::statusText() const
 
 void TRunSession::resetGrid()
 {
+    fillTree();
     if (!m_grid)
         return;
     m_grid->clearContents();
     m_grid->setRowCount(m_table.count());
     m_gridFilled = QBitArray(m_table.count());
     fillGrid();
+}
+
+void TRunSession::fillTree()
+{
+    if (m_trees.isEmpty() || !m_table.isOpen())
+        return;
+    QVector<TRecord> records;
+    if (!m_table.fetchRows(0, m_table.count(), records))
+        return;
+    for (TcxDBTreeList *tree : std::as_const(m_trees)) {
+        if (!tree)
+            continue;
+        // The shown fields: the tree's field list, else its designed columns.
+        QStringList fields = tree->Hint().split(QLatin1Char(','), Qt::SkipEmptyParts);
+        for (QString &f : fields)
+            f = f.trimmed();
+        if (fields.isEmpty())
+            for (const QString &column : tree->Columns())
+                fields << column.section(QLatin1Char('='), 0, 0).trimmed();
+        if (tree->columnCount() < fields.size())
+            tree->setColumnCount(int(fields.size()));
+        tree->setHeaderLabels(fields);
+        tree->clear();
+        // A record hangs below the one whose key field holds its parent
+        // field's value; one whose parent is not in the table stands at the top.
+        const QString keyField = tree->KeyField().trimmed().isEmpty() ? QStringLiteral("QXID") : tree->KeyField();
+        QHash<QString, QTreeWidgetItem *> byKey;
+        QVector<QPair<QTreeWidgetItem *, QString>> items; // with the parent's key
+        for (const TRecord &r : std::as_const(records)) {
+            auto *item = new QTreeWidgetItem;
+            for (int c = 0; c < fields.size(); ++c)
+                item->setText(c, m_table.text(r, fields.at(c)));
+            item->setData(0, Qt::UserRole, r.Id);
+            byKey.insert(m_table.text(r, keyField), item);
+            items.append({item, m_table.text(r, tree->ParentField())});
+        }
+        for (const auto &[item, parentKey] : std::as_const(items)) {
+            QTreeWidgetItem *parent = parentKey.isEmpty() ? nullptr : byKey.value(parentKey);
+            // A record that is its own ancestor would hang the tree: it goes to the top.
+            for (QTreeWidgetItem *p = parent; p; p = p->parent())
+                if (p == item)
+                    parent = nullptr;
+            if (parent)
+                parent->addChild(item);
+            else
+                tree->addTopLevelItem(item);
+        }
+        tree->expandAll();
+    }
+}
+
+void TRunSession::selectTreeItem()
+{
+    for (TcxDBTreeList *tree : std::as_const(m_trees)) {
+        if (!tree)
+            continue;
+        const QSignalBlocker block(tree);
+        QTreeWidgetItem *found = nullptr;
+        for (QTreeWidgetItemIterator it(tree); *it && !found; ++it)
+            if ((*it)->data(0, Qt::UserRole).toLongLong() == m_record.Id && m_record.Id >= 0)
+                found = *it;
+        tree->setCurrentItem(found);
+        if (!found)
+            tree->clearSelection();
+    }
+}
+
+void TRunSession::showLookup(TcxDBPopupEdit *lookup)
+{
+    if (!m_table.isOpen() || !lookup || lookup->ReadOnly())
+        return;
+    QString error;
+    const QStringList values = m_table.lookupValues(lookup->EditMask(), lookup->DataField(), &error);
+    if (!error.isEmpty()) {
+        message(error);
+        return;
+    }
+    // A list below the field; a click or Enter takes the value, Esc leaves it.
+    auto *list = new QListWidget(lookup);
+    list->setObjectName(QStringLiteral("LookupList"));
+    list->setWindowFlags(Qt::Popup);
+    list->setAttribute(Qt::WA_DeleteOnClose);
+    list->addItems(values);
+    const QList<QListWidgetItem *> current = list->findItems(lookup->text(), Qt::MatchExactly);
+    list->setCurrentRow(current.isEmpty() ? 0 : list->row(current.first()));
+    const auto take = [this, lookup, list](QListWidgetItem *item) {
+        if (item && lookup->text() != item->text()) {
+            lookup->setText(item->text());
+            controlEdited();
+        }
+        list->close();
+    };
+    connect(list, &QListWidget::itemClicked, this, take);
+    connect(list, &QListWidget::itemActivated, this, take);
+    const int rows = qBound(1, int(values.size()), 12);
+    list->resize(qMax(lookup->width(), 120), rows * list->sizeHintForRow(0) + 2 * list->frameWidth() + 2);
+    list->move(lookup->mapToGlobal(QPoint(0, lookup->height())));
+    list->show();
+    list->setFocus();
 }
 
 void TRunSession::fillGrid()
@@ -563,6 +769,20 @@ void TRunSession::gridClicked(int row)
 
 void TRunSession::applyRules()
 {
+    // A button whose rule holds for the current record takes the rule's colour.
+    const bool hasRecord = m_table.isOpen() && (m_row >= 0 || m_inserting);
+    for (const auto &[button, designed] : std::as_const(m_ruleButtons)) {
+        if (!button)
+            continue;
+        const auto color = StringToColor(button->RegelFarbe().trimmed());
+        if (hasRecord && color
+            && FieldRules::ruleMatches(button->RegelAusdruck(), m_table.text(m_record, button->RegelFeld()))) {
+            QPalette palette = designed;
+            palette.setColor(QPalette::Button, color->toQColor());
+            button->setPalette(palette);
+        } else
+            button->setPalette(designed);
+    }
 }
 
 QAction *TRunSession::action(const char *name) const
@@ -591,15 +811,7 @@ void TRunSession::createNavigator()
         {"NavPost", QStringLiteral("Speichern"), QKeySequence(Qt::Key_F2), [this] { Post(); }},
         {"NavDelete", QStringLiteral("Löschen"), QKeySequence(Qt::CTRL | Qt::Key_Delete), [this] { Delete(); }},
         {"NavCancel", QStringLiteral("Verwerfen"), QKeySequence(Qt::Key_Escape), [this] { Cancel(); }},
-        {"NavFind", QStringLiteral("Suchen"), QKeySequence(Qt::Key_F3),
-         [this] {
-             bool ok = false;
-             const QString text = QInputDialog::getText(m_dialogParent, QStringLiteral("Datensatz suchen"),
-                                                        QStringLiteral("Suchen nach („%1“):").arg(m_table.indexColumn()),
-                                                        QLineEdit::Normal, QString(), &ok);
-             if (ok && !text.isEmpty())
-                 Find(text);
-         }},
+        {"NavFind", QStringLiteral("Suchen"), QKeySequence(Qt::Key_F3), [this] { FindDialog(); }},
     };
     for (const Command &c : commands) {
         auto *a = new QAction(c.caption, m_navigator);

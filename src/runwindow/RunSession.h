@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QBitArray>
+#include <QPalette>
 #include <QObject>
 #include <QPointer>
 #include <QVariant>
@@ -14,6 +15,10 @@ class QAction;
 
 class QWidget;
 class TDBGrid;
+class TcxDBPopupEdit;
+class TcxTextEdit;
+class TcxDBTreeList;
+class TMaskBtn;
 class TMaskDocument;
 
 // Run mode of one mask: its data controls show and edit the current record
@@ -37,6 +42,12 @@ public:
     // Asks about unsaved changes (Cancel: false, run mode stays), then puts
     // the design back.
     bool stop();
+    // Unsaved record changes: asks whether to save them (Yes saves, No drops
+    // them); false on Cancel or when the save failed.
+    bool askToSave();
+    // Asks for the text to search for and goes there.
+    void FindDialog();
+
     // The design while fn runs (saving the mask in run mode), then the record again.
     void withDesign(const std::function<void()> &fn);
 
@@ -85,13 +96,17 @@ private:
     void showRecord();
     void showEmpty();
     bool readControls(TRecord &record, QWidget **failed);
-    bool askToSave();
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void controlEdited();
     void updateActions();
     void resetGrid();
     void fillGrid();
     void gridClicked(int row);
     void applyRules();
+    void applyEditMasks();
+    void showLookup(TcxDBPopupEdit *lookup);
+    void fillTree();
+    void selectTreeItem();
     void focusField(const QString &field);
     void message(const QString &text);
 
@@ -102,6 +117,9 @@ private:
     QVector<TDesignValue> m_design;
     QVector<TBinding> m_bindings;
     QPointer<TDBGrid> m_grid;
+    QVector<QPointer<TcxDBTreeList>> m_trees;
+    QVector<QPair<QPointer<TMaskBtn>, QPalette>> m_ruleButtons; // with the designed palette
+    QVector<QPair<QPointer<TcxTextEdit>, QString>> m_masked;    // with the edit mask
     QBitArray m_gridFilled;
     QPointer<QToolBar> m_navigator;
     TRecord m_record;   // as read (or as made new)

@@ -24,6 +24,7 @@
 #include "Maske.h"
 #include "MyBtn.h"
 #include "ObjectInspector.h"
+#include "RunSession.h"
 #include "SetupDialog.h"
 #include "SizeForm.h"
 #include "MemoDialog.h"
@@ -31,8 +32,10 @@
 
 TFormDesigner *TMainForm::activeDesigner() const
 {
+    // A mask in run mode has no design tools: cut, paste, delete, lock and
+    // the alignment commands leave its controls alone.
     TMaske *mask = activeMask();
-    return mask ? mask->FormDesigner2() : nullptr;
+    return mask && !TRunSession::of(mask->document()) ? mask->FormDesigner2() : nullptr;
 }
 
 bool TMainForm::runEngineCommand(const std::function<void()> &command)
@@ -319,6 +322,9 @@ void TMainForm::applyDesignerSettings(TCustomFormDesigner *designer)
 void TMainForm::maskActivated(TMaske *mask, TcxEditStyleController *styleController)
 {
     m_currentStyleController = styleController;
+    // Activation switches the designer on; a mask in run mode stays without it.
+    if (TRunSession::of(mask->document()))
+        mask->FormDesigner2()->setActive(false);
     m_objInsp->setActiveMask(mask);
     UpdateBtn();
     // The list shows what the mask is designed for.

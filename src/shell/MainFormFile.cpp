@@ -21,11 +21,12 @@ void TMainForm::FileOpenItemClick()
     // The engine stays out of the dialog's way; the mask gets it back when
     // the dialog is gone.
     QPointer<TMaske> previous = activeMask();
+    const bool wasActive = previous && previous->FormDesigner2()->Active();
     if (previous)
         previous->FormDesigner2()->setActive(false);
     const bool chosen = OpenDialog.execute(this);
     if (previous)
-        previous->FormDesigner2()->setActive(true);
+        previous->FormDesigner2()->setActive(wasActive);
     if (!chosen)
         return;
     const QStringList files = OpenDialog.files.isEmpty() ? QStringList{OpenDialog.fileName} : OpenDialog.files;
@@ -78,9 +79,11 @@ void TMainForm::FileSaveAsItemClick()
     if (!mask)
         return;
     SaveDialog1.fileName = mask->windowTitle();
+    // A mask in run mode stays without its designer.
+    const bool wasActive = mask->FormDesigner2()->Active();
     mask->FormDesigner2()->setActive(false);
     const bool chosen = SaveDialog1.execute(this);
-    mask->FormDesigner2()->setActive(true);
+    mask->FormDesigner2()->setActive(wasActive);
     if (!chosen)
         return;
     const QString fileName = SaveDialog1.fileName;

@@ -8,6 +8,7 @@
 #include "RunSession.h"
 #include "SetupDialog.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -50,6 +51,7 @@ void TMainForm::EditMode1Click()
     showObjectInspector();
     for (int i : kDesignBars)
         bar(i)->setVisible(true);
+    UpdateBtn();
 }
 
 void TMainForm::RunMode1Click()
@@ -57,7 +59,12 @@ void TMainForm::RunMode1Click()
     TMaske *mask = activeMask();
     if (mask)
         mask->FormDesigner2()->setActive(false);
+    // The inspector may have held the keyboard; hidden, it hands it back to
+    // the main window so that the mask's fields take clicks and keys.
+    const bool inspectorActive = m_objInsp->isActiveWindow();
     m_objInsp->hide();
+    if (inspectorActive || !QApplication::activeWindow())
+        activateWindow();
     for (int i : kDesignBars)
         bar(i)->setVisible(false);
     if (mask && !TRunSession::of(mask->document())) {
@@ -69,6 +76,7 @@ void TMainForm::RunMode1Click()
         session->start(m_frmSetup->ConnectionSettings());
         updateStatusText();
     }
+    UpdateBtn();
 }
 
 void TMainForm::dxBar1024x768Click()

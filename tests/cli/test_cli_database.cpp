@@ -74,6 +74,31 @@ private Q_SLOTS:
         QVERIFY(readFileBytes(path(QStringLiteral("db/Kunden.ini"))).contains("Index=knr\r\n"));
     }
 
+    void recordsGoOutAndComeInAllOrNothing()
+    {
+        writeText(QStringLiteral("waren.dbm"),
+                  QStringLiteral("[Datenbank]\nTabelle=Waren\n"
+                                 "[Field_1]\nName=Nr\nLaenge=6\nTyp=0\nPflicht=1\n"
+                                 "[Field_2]\nName=Menge\nDesc=Stückzahl\nTyp=1\n"
+                                 "[Field_3]\nName=Bez\nLaenge=20\nTyp=0\n"));
+        writeText(QStringLiteral("db/Waren.ini"),
+                  QStringLiteral("[Datenbank]\nIndex=Nr\nDateizaehler=W.NUM\nFelder=Nr\n[Default]\nBez=ohne\n"));
+        Run r = run(QStringLiteral("local.ini"), {QStringLiteral("create-table"), path(QStringLiteral("waren.dbm"))});
+        QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+        // The empty number comes from the counter, the empty name from its default.
+        writeText(QStringLiteral("gut.csv"), QStringLiteral("Nr;Menge;Bez\nA1;5;\"Schraube; M4\"\n;7;\n"));
+        r = run(QStringLiteral("local.ini"), {QStringLiteral("import"), path(QStringLiteral("waren.dbm")), path(QStringLiteral("gut.csv"))});
+        QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+        // One bad row: nothing is taken, the message names row and field.
+        writeText(QStringLiteral("schlecht.csv"), QStringLiteral("Nr,Menge\nB1,3\nB2,drei\n"));
+        r = run(QStringLiteral("local.ini"), {QStringLiteral("import"), path(QStringLiteral("waren.dbm")), path(QStringLiteral("schlecht.csv"))});
+        QCOMPARE(r.exitCode, 1);
+        QVERIFY2(r.err.contains(QStringLiteral("Zeile 3: Im Feld „Stückzahl“ ist „drei“ keine ganze Zahl.")), qPrintable(r.err));
+        r = run(QStringLiteral("local.ini"), {QStringLiteral("export"), path(QStringLiteral("waren.dbm"))});
+        QCOMPARE(r.exitCode, 0);
+        QCOMPARE(r.out, QStringLiteral("Nr;Menge;Bez\n1;7;ohne\nA1;5;\"Schraube; M4\"\n"));
+    }
+
     void failuresSayWhatWentWrong()
     {
         Run r = run(QStringLiteral("local.ini"), {QStringLiteral("create-table"), path(QStringLiteral("ohne.dbm"))});

@@ -8,6 +8,7 @@
 #include "Components.h"
 #include "Edits.h"
 #include "MaskDocument.h"
+#include "FieldRules.h"
 #include "MaskTable.h"
 #include "TestSupport.h"
 #include "helper_db.h"
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void newSaveChangeDelete_data();
     void newSaveChangeDelete();
     void counterNeverGivesANumberTwice();
+    void rulesAndEditMasks();
 };
 
 void TestRecords::newSaveChangeDelete_data()
@@ -180,6 +182,25 @@ void TestRecords::counterNeverGivesANumberTwice()
     QCOMPARE(asked, QStringList{file});
     QVERIFY(macros.expand(QStringLiteral("R-%NUM\"ZAEHLER.NUM\""), &value, &error));
     QCOMPARE(value, QStringLiteral("R-101"));
+}
+
+void TestRecords::rulesAndEditMasks()
+{
+    using FieldRules::ruleMatches;
+    // Numbers compare as numbers, dates as dates, text without case; wildcards.
+    QVERIFY(ruleMatches(QStringLiteral(">9"), QStringLiteral("10,5")));
+    QVERIFY(!ruleMatches(QStringLiteral(">9"), QStringLiteral("")));
+    QVERIFY(ruleMatches(QStringLiteral("<01.02.2024"), QStringLiteral("31.01.2024")));
+    QVERIFY(ruleMatches(QStringLiteral("<>offen"), QStringLiteral("Erledigt")));
+    QVERIFY(!ruleMatches(QStringLiteral("M*er"), QStringLiteral("Müllers")));
+    QVERIFY(ruleMatches(QStringLiteral("M*er"), QStringLiteral("Maier")));
+    QVERIFY(ruleMatches(QStringLiteral("="), QString()));
+    QVERIFY(!ruleMatches(QString(), QString()));
+    // Required and optional digits swap places; the value drops literals when told to.
+    QCOMPARE(FieldRules::inputMask(QStringLiteral("!99/99/0000;1;_")), QStringLiteral("00.00.9999;_"));
+    QCOMPARE(FieldRules::maskedValue(QStringLiteral("!99/99/0000;1;_"), QStringLiteral("  .  .    ")), QString());
+    QCOMPARE(FieldRules::maskedValue(QStringLiteral("!99/99/0000;1;_"), QStringLiteral("..")), QString());
+    QCOMPARE(FieldRules::maskedValue(QStringLiteral("000-00;0;_"), QStringLiteral("123-45")), QStringLiteral("12345"));
 }
 
 QTEST_MAIN(TestRecords)

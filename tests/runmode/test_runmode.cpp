@@ -2,7 +2,11 @@
 // edit the records of its table, the navigator and its keys, a new record
 // with its counter number, a required field refused, the grid following,
 // a change by someone else, and the design left byte-identical.
+#include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTreeWidget>
 #include <QMdiArea>
 #include <QTest>
 #include <QToolBar>
@@ -11,6 +15,7 @@
 #include "Edits.h"
 #include "FormDesigner.h"
 #include "Grids.h"
+#include "MyBtn.h"
 #include "MainForm.h"
 #include "Maske.h"
 #include "RunSession.h"
@@ -55,6 +60,8 @@ private Q_SLOTS:
     void enterNavigateEditAndBack_data();
     void enterNavigateEditAndBack();
     void withoutTableStaysPreview();
+    void runModeKeepsItsToolsAndAsks();
+    void controlsOfferTheirValues();
 
 private:
     QTemporaryDir m_dir;
@@ -216,6 +223,170 @@ void TestRunMode::withoutTableStaysPreview()
     typeInto(edit, QStringLiteral("Hallo"));
     form.EditMode1Click();
     QCOMPARE(edit->text(), QStringLiteral("Name"));
+    mask->setModified(false);
+}
+
+void TestRunMode::runModeKeepsItsToolsAndAsks()
+{
+    const TConnectionSettings settings = g_fixture->settings(QStringLiteral("sqlite"));
+    ScriptedDialogs dialogs;
+    {
+        TDbConnection connection;
+        TTableGenerator generator(connection, settings);
+        generator.TableName = QStringLiteral("Artikel");
+        dialogs.messageAnswers << mrOk;
+        generator.Rows = {fieldRow(QStringLiteral("Nummer"), QStringLiteral("A"), QStringLiteral("10"), true)};
+        QVERIFY(generator.CreateDB());
+        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Artikel\" (\"Nummer\") VALUES ('A1'), ('B2'), ('C3')"));
+    }
+    TMainForm form(QStringList{});
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    form.frmSetup()->setConnectionSettings(settings);
+    form.FileNewItemClick();
+    TMaske *mask = form.activeMask();
+    QPointer<TcxTextEdit> number =
+        qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, mask->document(), {20, 20}));
+    number->setText(QStringLiteral("Nummer"));
+    mask->document()->setTabelle(QStringLiteral("Artikel"));
+    TTableSettings ts;
+    ts.Index = QStringLiteral("Nummer");
+    mask->document()->setTableSettings(ts);
+    QCOMPARE(mask->FormDesigner2()->ControlCount(), 1);
+    form.RunMode1Click();
+    TRunSession *session = TRunSession::of(mask->document());
+    QVERIFY(session && session->hasData());
+
+    // Save As and the Delete command leave the mask in run mode and its controls alone.
+    dialogs.fileAnswers << QStringList{m_dir.filePath(QStringLiteral("Artikel.dbm"))};
+    form.FileSaveAsItemClick();
+    QVERIFY(!mask->FormDesigner2()->Active());
+    form.FileNewItemClick(); // another mask, then back to this one
+    form.mdiArea()->setActiveSubWindow(mask);
+    QVERIFY(!mask->FormDesigner2()->Active());
+    form.findChild<QAction *>(QStringLiteral("DeleteItem"))->trigger();
+    form.Lschen1Click();
+    QVERIFY(number);
+    QCOMPARE(number->text(), QStringLiteral("A1"));
+
+    // The search asks through the dialog seam.
+    dialogs.dialogAnswers << [](QDialog *dialog) {
+        dialog->findChild<QLineEdit *>()->setText(QStringLiteral("b"));
+        return int(QDialog::Accepted);
+    };
+    number->setFocus();
+    QTest::keyClick(number, Qt::Key_F3);
+    QCOMPARE(number->text(), QStringLiteral("B2"));
+
+    // Closing with a changed record asks; Cancel keeps the window, No closes it unsaved.
+    typeInto(number, QStringLiteral("X9"));
+    dialogs.messageAnswers << mrCancel;
+    QVERIFY(!mask->close());
+    QVERIFY(dialogs.messages.last().text.startsWith(QStringLiteral("Der Datensatz wurde geändert.")));
+    QCOMPARE(number->text(), QStringLiteral("X9"));
+    dialogs.messageAnswers << mrNo;
+    QVERIFY(mask->close());
+    QCOMPARE(session->table().count(), 3);
+    QCOMPARE(dialogs.unexpected, 0);
+}
+
+void TestRunMode::controlsOfferTheirValues()
+{
+    const TConnectionSettings settings = g_fixture->settings(QStringLiteral("sqlite"));
+    ScriptedDialogs dialogs;
+    {
+        TDbConnection connection;
+        TTableGenerator generator(connection, settings);
+        generator.TableName = QStringLiteral("Orte");
+        dialogs.messageAnswers << mrOk << mrOk;
+        generator.Rows = {fieldRow(QStringLiteral("Ort"), QStringLiteral("A"), QStringLiteral("20"), true)};
+        QVERIFY(generator.CreateDB());
+        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Orte\" (\"Ort\") VALUES ('Ulm'), ('Bonn'), ('Ulm')"));
+        generator.TableName = QStringLiteral("Posten");
+        generator.Rows = {fieldRow(QStringLiteral("Titel"), QStringLiteral("A"), QStringLiteral("20"), true),
+                          fieldRow(QStringLiteral("Ort"), QStringLiteral("A"), QStringLiteral("20")),
+                          fieldRow(QStringLiteral("Datum"), QStringLiteral("D")),
+                          fieldRow(QStringLiteral("Farbe"), QStringLiteral("A"), QStringLiteral("10"))};
+        QVERIFY(generator.CreateDB());
+        // Two levels: "Teil" hangs below "Ganzes".
+        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Posten\" (\"Titel\", \"Ort\") VALUES ('Ganzes', 'Bonn')"));
+        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Posten\" (\"Titel\", \"QXParent\") SELECT 'Teil', \"QXID\" "
+                                                   "FROM \"Posten\" WHERE \"Titel\" = 'Ganzes'"));
+    }
+    TMainForm form(QStringList{});
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    form.frmSetup()->setConnectionSettings(settings);
+    form.FileNewItemClick();
+    TMaske *mask = form.activeMask();
+    QWidget *doc = mask->document();
+    auto *title = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, doc, {20, 20}));
+    auto *place = qobject_cast<TcxDBPopupEdit *>(mask->placeControl(TPaletteCode::Lookup, doc, {20, 50}));
+    auto *date = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, doc, {20, 80}));
+    auto *button = qobject_cast<TMaskBtn *>(mask->placeControl(TPaletteCode::Button, doc, {200, 20}));
+    auto *tree = qobject_cast<TcxDBTreeList *>(mask->placeControl(TPaletteCode::TreeList, doc, {200, 60}));
+    auto *color = qobject_cast<TcxComboBox *>(mask->placeControl(TPaletteCode::Combo, doc, {20, 110}));
+    QVERIFY(title && place && date && button && tree && color);
+    color->setText(QStringLiteral("Farbe"));
+    color->setHint(QStringLiteral("Farben"));
+    QVERIFY(writeFileBytes(settings.DBPfad + QStringLiteral("Farben"), "rot\r\ngr\xfcn\r\n"));
+    title->setText(QStringLiteral("Titel"));
+    place->setDataField(QStringLiteral("Ort"));
+    place->setEditMask(QStringLiteral("Orte"));
+    date->setText(QStringLiteral("Datum"));
+    date->setHint(QStringLiteral("!99/99/0000;1;_"));
+    button->setRegelFeld(QStringLiteral("Ort"));
+    button->setRegelAusdruck(QStringLiteral("= 'bonn'"));
+    button->setRegelFarbe(QStringLiteral("clRed"));
+    tree->setHint(QStringLiteral("Titel"));
+    mask->document()->setTabelle(QStringLiteral("Posten"));
+    TTableSettings ts;
+    ts.Index = QStringLiteral("Titel");
+    mask->document()->setTableSettings(ts);
+    const QString file = m_dir.filePath(QStringLiteral("Posten.dbm"));
+    QVERIFY(form.SaveMask(file));
+    const QByteArray designed = readFileBytes(file);
+    const QColor buttonColor = button->palette().color(QPalette::Button);
+    form.RunMode1Click();
+    TRunSession *session = TRunSession::of(mask->document());
+    QVERIFY(session && session->hasData());
+
+    // The tree shows the records by parent; the rule colours the button on "Bonn" only.
+    QCOMPARE(title->text(), QStringLiteral("Ganzes"));
+    QCOMPARE(tree->topLevelItemCount(), 1);
+    QCOMPARE(tree->topLevelItem(0)->child(0)->text(0), QStringLiteral("Teil"));
+    QCOMPARE(button->palette().color(QPalette::Button), QColor(Qt::red));
+    QCOMPARE(color->Items(), (QStringList{QStringLiteral("rot"), QStringLiteral("grün")}));
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
+                      tree->visualItemRect(tree->topLevelItem(0)->child(0)).center());
+    QCOMPARE(title->text(), QStringLiteral("Teil"));
+    QCOMPARE(button->palette().color(QPalette::Button), buttonColor);
+
+    // The lookup offers the other table's values once each; a click takes one.
+    QTest::mouseClick(place, Qt::LeftButton, {}, place->buttonRect().center());
+    auto *list = qobject_cast<QListWidget *>(QApplication::activePopupWidget());
+    QVERIFY(list);
+    QCOMPARE(list->count(), 2);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    QCOMPARE(place->text(), QStringLiteral("Bonn"));
+    QCOMPARE(button->palette().color(QPalette::Button), buttonColor); // not saved yet
+
+    // The edit mask: digits only, the dots stand; the date is stored.
+    date->setFocus();
+    QTest::keyClick(date, Qt::Key_Home);
+    QTest::keyClicks(date, QStringLiteral("0x1032024"));
+    QCOMPARE(date->text(), QStringLiteral("01.03.2024"));
+    QTest::keyClick(date, Qt::Key_F2);
+    QCOMPARE(button->palette().color(QPalette::Button), QColor(Qt::red));
+    QCOMPARE(scalarOf(session->table().engine(), QStringLiteral("SELECT \"Datum\" FROM \"Posten\" WHERE \"Titel\" = 'Teil'"))
+                 .toDate(),
+             QDate(2024, 3, 1));
+    form.EditMode1Click();
+    QCOMPARE(date->text(), QStringLiteral("Datum"));
+    QCOMPARE(tree->topLevelItemCount(), 0);
+    QVERIFY(form.SaveMask(file));
+    QCOMPARE(readFileBytes(file), designed);
+    QCOMPARE(dialogs.unexpected, 0);
     mask->setModified(false);
 }
 
