@@ -778,6 +778,145 @@ S = Byte</translation>
         <source>&amp;Hilfe</source>
         <translation>&amp;Help</translation>
     </message>
+    <message>
+        <source>Quorbex Maske (*.dbm)|*.dbm;|Quorbex Maske Backup |*.dbm_bak</source>
+        <translation>Quorbex mask (*.dbm)|*.dbm;|Quorbex mask backup |*.dbm_bak</translation>
+    </message>
+    <message>
+        <source>Maske (*.dbm)|*.dbm</source>
+        <translation>Mask (*.dbm)|*.dbm</translation>
+    </message>
+    <message>
+        <source>An &amp;Raster anordnen</source>
+        <translation>Align to &amp;grid</translation>
+    </message>
+    <message>
+        <source>In &amp;Vordergrund stellen</source>
+        <translation>Bring to &amp;front</translation>
+    </message>
+    <message>
+        <source>In &amp;Hintergrund stellen</source>
+        <translation>Send to &amp;back</translation>
+    </message>
+    <message>
+        <source>G&amp;röße funktionen...</source>
+        <translation>&amp;Size functions...</translation>
+    </message>
+    <message>
+        <source>Raster &amp;Optionen...</source>
+        <translation>Grid &amp;options...</translation>
+    </message>
+    <message>
+        <source>&amp;Anordungs funktionen...</source>
+        <translation>&amp;Alignment functions...</translation>
+    </message>
+</context>
+<context>
+    <name>TMaskTable</name>
+    <message>
+        <source>Die Maske hat keine Tabelle (Maskenoptionen).</source>
+        <translation>The mask has no table (mask options).</translation>
+    </message>
+    <message>
+        <source>Keine Verbindung zur Datenbank: %1</source>
+        <translation>No connection to the database: %1</translation>
+    </message>
+    <message>
+        <source>Die Tabelle „%1“ ist noch nicht erzeugt.</source>
+        <translation>The table “%1” has not been created yet.</translation>
+    </message>
+    <message>
+        <source>Die Tabelle „%1“ hat kein Feld „QXID“; bitte neu erzeugen.</source>
+        <translation>The table “%1” has no field “QXID”; please create it again.</translation>
+    </message>
+    <message>
+        <source>Die Auswahltabelle „%1“ kann nicht gelesen werden: %2</source>
+        <translation>The pick table “%1” cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>Keine Verbindung.</source>
+        <translation>No connection.</translation>
+    </message>
+    <message>
+        <source>Die Tabelle ist noch nicht erzeugt.</source>
+        <translation>The table has not been created yet.</translation>
+    </message>
+    <message>
+        <source>Sie hat keine Datenfelder.</source>
+        <translation>It has no data fields.</translation>
+    </message>
+    <message>
+        <source>Im Feld „%1“ ist „%2“ %3.</source>
+        <translation>In the field “%1”, “%2” is %3.</translation>
+    </message>
+    <message>
+        <source>keine ganze Zahl</source>
+        <translation>not a whole number</translation>
+    </message>
+    <message>
+        <source>keine Zahl</source>
+        <translation>not a number</translation>
+    </message>
+    <message>
+        <source>kein Datum (TT.MM.JJJJ)</source>
+        <translation>not a date (DD.MM.YYYY)</translation>
+    </message>
+    <message>
+        <source>keine Uhrzeit (HH:MM)</source>
+        <translation>not a time (HH:MM)</translation>
+    </message>
+    <message>
+        <source>kein Zeitpunkt (TT.MM.JJJJ HH:MM)</source>
+        <translation>not a point in time (DD.MM.YYYY HH:MM)</translation>
+    </message>
+    <message>
+        <source>weder Ja noch Nein</source>
+        <translation>neither yes nor no</translation>
+    </message>
+    <message>
+        <source>Im Feld „%1“ sind höchstens %2 Zeichen erlaubt.</source>
+        <translation>The field “%1” allows at most %2 characters.</translation>
+    </message>
+    <message>
+        <source>Das Feld „%1“ muss ausgefüllt werden.</source>
+        <translation>The field “%1” must be filled in.</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gespeichert werden:
+%1</source>
+        <translation>The record could not be saved:
+%1</translation>
+    </message>
+    <message>
+        <source>Die Tabelle ist nicht geöffnet.</source>
+        <translation>The table is not open.</translation>
+    </message>
+    <message>
+        <source>Die Spalte „%1“ gibt es in der Tabelle „%2“ nicht.</source>
+        <translation>The table “%2” has no column “%1”.</translation>
+    </message>
+    <message>
+        <source>Zeile %1: </source>
+        <translation>Row %1: </translation>
+    </message>
+    <message>
+        <source>%1 Werte statt %2.</source>
+        <translation>%1 values instead of %2.</translation>
+    </message>
+    <message>
+        <source>Der Datensatz wurde inzwischen von einem anderen Benutzer gelöscht.</source>
+        <translation>The record has been deleted by another user in the meantime.</translation>
+    </message>
+    <message>
+        <source>Der Datensatz wurde inzwischen von einem anderen Benutzer geändert.</source>
+        <translation>The record has been changed by another user in the meantime.</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden:
+%1</source>
+        <translation>The record could not be deleted:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>TMaske</name>
@@ -1405,6 +1544,89 @@ Shall the changes be saved?</translation>
     </message>
 </context>
 <context>
+    <name>TRunSession</name>
+    <message>
+        <source>Soll eine neue Nummer aus „%1“ vergeben werden?</source>
+        <translation>Shall a new number be taken from “%1”?</translation>
+    </message>
+    <message>
+        <source>Der Datensatz wurde geändert.<byte value="xd"/><byte value="xd"/>Sollen die Änderungen gespeichert werden?</source>
+        <translation>The record was changed.<byte value="xd"/><byte value="xd"/>Shall the changes be saved?</translation>
+    </message>
+    <message>
+        <source>%1<byte value="xd"/><byte value="xd"/>Soll der Datensatz neu geladen werden? Ihre Änderungen gehen dabei verloren.</source>
+        <translation>%1<byte value="xd"/><byte value="xd"/>Shall the record be loaded again? Your changes will be lost.</translation>
+    </message>
+    <message>
+        <source>Soll der Datensatz gelöscht werden?</source>
+        <translation>Shall the record be deleted?</translation>
+    </message>
+    <message>
+        <source>Kein Datensatz gefunden.</source>
+        <translation>No record found.</translation>
+    </message>
+    <message>
+        <source>Datensatz suchen</source>
+        <translation>Find record</translation>
+    </message>
+    <message>
+        <source>Suchen nach „%1“:</source>
+        <translation>Search for “%1”:</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Keine Daten: %1</source>
+        <translation>No data: %1</translation>
+    </message>
+    <message>
+        <source>Neuer Datensatz (%1 vorhanden)</source>
+        <translation>New record (%1 present)</translation>
+    </message>
+    <message>
+        <source>Datensatz %1 von %2</source>
+        <translation>Record %1 of %2</translation>
+    </message>
+    <message>
+        <source>Erster</source>
+        <translation>First</translation>
+    </message>
+    <message>
+        <source>Voriger</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>Nächster</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>Letzter</source>
+        <translation>Last</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Find</translation>
+    </message>
+</context>
+<context>
     <name>TSizeForm</name>
     <message>
         <source>Größe anpassen</source>
@@ -1529,6 +1751,29 @@ Shall the changes be saved?</translation>
     <message>
         <source>Daten wurden erfolgreich konvertiert.</source>
         <translation>Data were converted successfully.</translation>
+    </message>
+</context>
+<context>
+    <name>TValueMacros</name>
+    <message>
+        <source>Der Dateizähler „%1“ kann nicht benutzt werden: %2</source>
+        <translation>The file counter “%1” cannot be used: %2</translation>
+    </message>
+    <message>
+        <source>Kein Dateiname angegeben.</source>
+        <translation>No file name given.</translation>
+    </message>
+    <message>
+        <source>Der Ordner fehlt.</source>
+        <translation>The folder is missing.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist gesperrt.</source>
+        <translation>The file is locked.</translation>
+    </message>
+    <message>
+        <source>Sie enthält keine Zahl („%1“).</source>
+        <translation>It holds no number (“%1”).</translation>
     </message>
 </context>
 <context>
@@ -1874,6 +2119,149 @@ Options:
     <message>
         <source>Das Bild „%1“ konnte nicht gespeichert werden.</source>
         <translation>The picture “%1” could not be saved.</translation>
+    </message>
+</context>
+<context>
+    <name>ferolith-cli</name>
+    <message>
+        <source>Aufruf: %1</source>
+        <translation>Usage: %1</translation>
+    </message>
+    <message>
+        <source>Die Datei „%1“ gibt es nicht.</source>
+        <translation>The file “%1” does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Datei „%1“ kann nicht gelesen werden.</source>
+        <translation>The file “%1” cannot be read.</translation>
+    </message>
+    <message>
+        <source>roundtrip EIN.dbm AUS.dbm</source>
+        <translation>roundtrip IN.dbm OUT.dbm</translation>
+    </message>
+    <message>
+        <source>dump EIN.dbm</source>
+        <translation>dump IN.dbm</translation>
+    </message>
+    <message>
+        <source>render EIN.dbm AUS.png</source>
+        <translation>render IN.dbm OUT.png</translation>
+    </message>
+    <message>
+        <source>Das Bild „%1“ kann nicht geschrieben werden: %2</source>
+        <translation>The picture “%1” cannot be written: %2</translation>
+    </message>
+    <message>
+        <source>→ Ja</source>
+        <translation>→ Yes</translation>
+    </message>
+    <message>
+        <source>→ Nein</source>
+        <translation>→ No</translation>
+    </message>
+    <message>
+        <source>Die Einstellungen konnten nicht aus der Registrierung gelesen werden: %1</source>
+        <translation>The settings could not be read from the registry: %1</translation>
+    </message>
+    <message>
+        <source>Aufruf: ferolith-cli create-table MASKE.dbm [--keep-data|--drop-data]</source>
+        <translation>Usage: ferolith-cli create-table MASK.dbm [--keep-data|--drop-data]</translation>
+    </message>
+    <message>
+        <source>Die Maske „%1“ nennt keine Tabelle.</source>
+        <translation>The mask “%1” names no table.</translation>
+    </message>
+    <message>
+        <source>Aufruf: ferolith-cli servers</source>
+        <translation>Usage: ferolith-cli servers</translation>
+    </message>
+    <message>
+        <source>Aufruf: ferolith-cli aliases SERVER</source>
+        <translation>Usage: ferolith-cli aliases SERVER</translation>
+    </message>
+    <message>
+        <source>Keine Datenbank auf dem Server „%1“ gefunden.</source>
+        <translation>No database found on the server “%1”.</translation>
+    </message>
+    <message>
+        <source>Die Einstellungen konnten nicht gelesen werden: %1</source>
+        <translation>The settings could not be read: %1</translation>
+    </message>
+    <message>
+        <source>Das Anführungszeichen in Zeile %1 wird nicht geschlossen.</source>
+        <translation>The quotation mark in line %1 is not closed.</translation>
+    </message>
+    <message>
+        <source>Aufruf: ferolith-cli export MASKE.dbm</source>
+        <translation>Usage: ferolith-cli export MASK.dbm</translation>
+    </message>
+    <message>
+        <source>Aufruf: ferolith-cli import MASKE.dbm DATEI.csv</source>
+        <translation>Usage: ferolith-cli import MASK.dbm FILE.csv</translation>
+    </message>
+    <message>
+        <source>Die Datei hat keine Kopfzeile mit den Feldnamen.</source>
+        <translation>The file has no header line with the field names.</translation>
+    </message>
+    <message>
+        <source>Nichts wurde übernommen.</source>
+        <translation>Nothing was imported.</translation>
+    </message>
+    <message>
+        <source>%1 Datensätze übernommen.</source>
+        <translation>%1 records imported.</translation>
+    </message>
+    <message>
+        <source>Aufruf: ferolith-cli [--ini DATEI] BEFEHL [ARGUMENTE]
+
+Ferolith-Batchwerkzeug: bearbeitet Masken (.dbm) ohne sichtbares Fenster.
+
+Befehle:
+  roundtrip EIN.dbm AUS.dbm   Maske laden und wie &quot;Speichern&quot; wieder schreiben
+  dump EIN.dbm                Maske als JSON-Objekt ausgeben
+  render EIN.dbm AUS.png      Maske im Run Mode als PNG-Bild speichern
+  create-table EIN.dbm [--keep-data|--drop-data]
+                              Tabelle der Maske in der eingestellten Datenbank erzeugen;
+                              vorhandene Daten übernehmen (Vorgabe) oder verwerfen
+  export EIN.dbm              Datensätze der Tabelle der Maske als CSV ausgeben
+  import EIN.dbm DATEI.csv    CSV-Datei (Kopfzeile: Feldnamen) als neue Datensätze
+                              übernehmen, mit Vorgabewerten und Prüfungen der Maske;
+                              eine fehlerhafte Zeile: nichts wird übernommen
+  servers                     Datenbankserver suchen (Verbindungstyp aus den Einstellungen)
+  aliases SERVER              Datenbanken eines Servers auflisten
+
+Optionen:
+  -h, --help       diese Hilfe anzeigen
+  -v, --version    Version anzeigen
+  --ini DATEI      Einstellungsdatei statt der voreingestellten verwenden
+</source>
+        <translation>Usage: ferolith-cli [--ini FILE] COMMAND [ARGUMENTS]
+
+Ferolith batch tool: works on masks (.dbm) without a visible window.
+
+Commands:
+  roundtrip IN.dbm OUT.dbm    load a mask and write it again as &quot;Save&quot; does
+  dump IN.dbm                 print the mask as a JSON object
+  render IN.dbm OUT.png       save the mask in run mode as a PNG picture
+  create-table IN.dbm [--keep-data|--drop-data]
+                              create the mask&apos;s table in the configured database;
+                              carry existing data over (default) or drop it
+  export IN.dbm               print the records of the mask&apos;s table as CSV
+  import IN.dbm FILE.csv      take a CSV file (header line: field names) as new records,
+                              with the mask&apos;s default values and checks;
+                              one faulty row: nothing is imported
+  servers                     look for database servers (connection type from the settings)
+  aliases SERVER              list the databases of a server
+
+Options:
+  -h, --help       show this help
+  -v, --version    show the version
+  --ini FILE       use this settings file instead of the default one
+</translation>
+    </message>
+    <message>
+        <source>unbekannter Befehl „%1“ (siehe --help)</source>
+        <translation>unknown command “%1” (see --help)</translation>
     </message>
 </context>
 </TS>

@@ -28,7 +28,10 @@ bool expectArgs(const QStringList &args, int count, const char *usage, QTextStre
 {
     if (args.size() == count)
         return true;
-    err << "ferolith-cli: Aufruf: ferolith-cli " << usage << Qt::endl;
+    err << "ferolith-cli: "
+        << QCoreApplication::translate("ferolith-cli", "Aufruf: %1")
+               .arg(QStringLiteral("ferolith-cli ") + QCoreApplication::translate("ferolith-cli", usage))
+        << Qt::endl;
     return false;
 }
 
@@ -37,11 +40,14 @@ bool checkInput(const QString &file, QTextStream &err)
 {
     const QFileInfo info(file);
     if (!info.exists()) {
-        err << "ferolith-cli: Die Datei „" << file << "“ gibt es nicht." << Qt::endl;
+        err << "ferolith-cli: "
+            << QCoreApplication::translate("ferolith-cli", "Die Datei „%1“ gibt es nicht.").arg(file) << Qt::endl;
         return false;
     }
     if (!info.isFile() || !info.isReadable()) {
-        err << "ferolith-cli: Die Datei „" << file << "“ kann nicht gelesen werden." << Qt::endl;
+        err << "ferolith-cli: "
+            << QCoreApplication::translate("ferolith-cli", "Die Datei „%1“ kann nicht gelesen werden.").arg(file)
+            << Qt::endl;
         return false;
     }
     return true;
@@ -73,7 +79,7 @@ namespace CliCommands {
 
 int roundtrip(const QStringList &args, QTextStream &, QTextStream &err)
 {
-    if (!expectArgs(args, 2, "roundtrip EIN.dbm AUS.dbm", err))
+    if (!expectArgs(args, 2, QT_TRANSLATE_NOOP("ferolith-cli", "roundtrip EIN.dbm AUS.dbm"), err))
         return 2;
     TMaskDocument document;
     if (!load(document, args.at(0), err))
@@ -88,7 +94,7 @@ int roundtrip(const QStringList &args, QTextStream &, QTextStream &err)
 
 int dump(const QStringList &args, QTextStream &out, QTextStream &err)
 {
-    if (!expectArgs(args, 1, "dump EIN.dbm", err))
+    if (!expectArgs(args, 1, QT_TRANSLATE_NOOP("ferolith-cli", "dump EIN.dbm"), err))
         return 2;
     TMaskDocument document;
     if (!load(document, args.at(0), err))
@@ -108,7 +114,7 @@ int withMask(const QString &file, QTextStream &err, const std::function<int(cons
 
 int render(const QStringList &args, QTextStream &out, QTextStream &err)
 {
-    if (!expectArgs(args, 2, "render EIN.dbm AUS.png", err))
+    if (!expectArgs(args, 2, QT_TRANSLATE_NOOP("ferolith-cli", "render EIN.dbm AUS.png"), err))
         return 2;
     // A mask window in a window area, sized as the main window of a
     // 1280x1024 screen would size it, in run mode: no designer.
@@ -130,7 +136,9 @@ int render(const QStringList &args, QTextStream &out, QTextStream &err)
     const QImage image = mask->grab().toImage();
     QImageWriter writer(args.at(1), "png");
     if (!writer.write(image)) {
-        err << "ferolith-cli: Das Bild „" << args.at(1) << "“ kann nicht geschrieben werden: " << writer.errorString()
+        err << "ferolith-cli: "
+            << QCoreApplication::translate("ferolith-cli", "Das Bild „%1“ kann nicht geschrieben werden: %2")
+                   .arg(args.at(1), writer.errorString())
             << Qt::endl;
         return 1;
     }

@@ -12,6 +12,7 @@
 #include "TableGenerator.h"
 #include "UserDialogs.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace {
@@ -27,7 +28,7 @@ public:
     CliDialogs(const CliDialogs &) = delete;
     CliDialogs &operator=(const CliDialogs &) = delete;
 
-    TModalResult messageDlg(QWidget *, const QString &text, TMsgDlgType, TMsgDlgButtons buttons,
+    TModalResult messageDlg(QWidget *, const QString &text, TMsgDlgType type, TMsgDlgButtons buttons,
                             const QString &) override
     {
         QString plain = text;
@@ -35,9 +36,12 @@ public:
         m_err << plain << Qt::endl;
         if (!(buttons & mbYes))
             return mrOk;
-        const bool dataQuestion = text.contains(QStringLiteral("enthält bereits Daten"));
+        // The generator asks to confirm taking over the data; the conversion warns.
+        const bool dataQuestion = type == mtConfirmation;
         const TModalResult answer = dataQuestion && m_keepData ? mrYes : mrNo;
-        m_err << (answer == mrYes ? "→ Ja" : "→ Nein") << Qt::endl;
+        m_err << (answer == mrYes ? QCoreApplication::translate("ferolith-cli", "→ Ja")
+                                  : QCoreApplication::translate("ferolith-cli", "→ Nein"))
+              << Qt::endl;
         return answer;
     }
     bool fileDialog(QWidget *, TFileDialog &) override { return false; }
@@ -56,7 +60,10 @@ TConnectionSettings loadSettings(QTextStream &err, bool *ok)
     QString error;
     const TConnectionSettings settings = TConnectionSettings::load(AppPaths::settingsFile(), ok, &error);
     if (!*ok)
-        err << "ferolith-cli: Die Einstellungen konnten nicht aus der Registrierung gelesen werden: " << error
+        err << "ferolith-cli: "
+            << QCoreApplication::translate("ferolith-cli",
+                                           "Die Einstellungen konnten nicht aus der Registrierung gelesen werden: %1")
+                   .arg(error)
             << Qt::endl;
     return settings;
 }
@@ -72,7 +79,10 @@ int createTable(const QStringList &args, QTextStream &, QTextStream &err)
     const bool keep = rest.removeAll(QStringLiteral("--keep-data")) > 0;
     const bool drop = rest.removeAll(QStringLiteral("--drop-data")) > 0;
     if (rest.size() != 1 || (keep && drop)) {
-        err << "ferolith-cli: Aufruf: ferolith-cli create-table MASKE.dbm [--keep-data|--drop-data]" << Qt::endl;
+        err << "ferolith-cli: "
+            << QCoreApplication::translate("ferolith-cli",
+                                           "Aufruf: ferolith-cli create-table MASKE.dbm [--keep-data|--drop-data]")
+            << Qt::endl;
         return 2;
     }
     if (drop)
@@ -84,7 +94,9 @@ int createTable(const QStringList &args, QTextStream &, QTextStream &err)
 
     return CliCommands::withMask(rest.first(), err, [&](const TMaskDocument &mask) {
         if (mask.Tabelle().isEmpty()) {
-            err << "ferolith-cli: Die Maske „" << rest.first() << "“ nennt keine Tabelle." << Qt::endl;
+            err << "ferolith-cli: "
+                << QCoreApplication::translate("ferolith-cli", "Die Maske „%1“ nennt keine Tabelle.").arg(rest.first())
+                << Qt::endl;
             return 1;
         }
         CliDialogs dialogs(err, keepData);
@@ -100,7 +112,8 @@ int createTable(const QStringList &args, QTextStream &, QTextStream &err)
 int servers(const QStringList &args, QTextStream &out, QTextStream &err)
 {
     if (!args.isEmpty()) {
-        err << "ferolith-cli: Aufruf: ferolith-cli servers" << Qt::endl;
+        err << "ferolith-cli: " << QCoreApplication::translate("ferolith-cli", "Aufruf: ferolith-cli servers")
+            << Qt::endl;
         return 2;
     }
     bool settingsOk = false;
@@ -120,7 +133,8 @@ int servers(const QStringList &args, QTextStream &out, QTextStream &err)
 int aliases(const QStringList &args, QTextStream &out, QTextStream &err)
 {
     if (args.size() != 1) {
-        err << "ferolith-cli: Aufruf: ferolith-cli aliases SERVER" << Qt::endl;
+        err << "ferolith-cli: " << QCoreApplication::translate("ferolith-cli", "Aufruf: ferolith-cli aliases SERVER")
+            << Qt::endl;
         return 2;
     }
     bool settingsOk = false;
@@ -130,7 +144,9 @@ int aliases(const QStringList &args, QTextStream &out, QTextStream &err)
     QString error;
     const QStringList names = ServerScan::GetAliasNames(settings.ServerProtokol, args.first(), &error);
     if (names.isEmpty()) {
-        err << "ferolith-cli: " << QStringLiteral("Keine Datenbank auf dem Server „%1“ gefunden.").arg(args.first());
+        err << "ferolith-cli: "
+            << QCoreApplication::translate("ferolith-cli", "Keine Datenbank auf dem Server „%1“ gefunden.")
+                   .arg(args.first());
         if (!error.isEmpty())
             err << " " << error.simplified();
         err << Qt::endl;

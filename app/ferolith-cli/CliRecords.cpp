@@ -9,6 +9,7 @@
 #include "MaskTable.h"
 #include "TextCodec.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QStringDecoder>
 
@@ -20,7 +21,10 @@ bool openTable(const TMaskDocument &mask, const QString &file, TMaskTable &table
     QString error;
     const TConnectionSettings settings = TConnectionSettings::load(AppPaths::settingsFile(), &ok, &error);
     if (!ok) {
-        err << "ferolith-cli: Die Einstellungen konnten nicht gelesen werden: " << error << Qt::endl;
+        err << "ferolith-cli: "
+            << QCoreApplication::translate("ferolith-cli", "Die Einstellungen konnten nicht gelesen werden: %1")
+                   .arg(error)
+            << Qt::endl;
         return false;
     }
     // A script cannot answer "%?NUM": it always draws the number.
@@ -115,7 +119,9 @@ bool parseCsv(const QString &input, QVector<QStringList> &rows, QString *errorMe
     }
     if (quoted) {
         if (errorMessage)
-            *errorMessage = QStringLiteral("Das Anführungszeichen in Zeile %1 wird nicht geschlossen.").arg(quoteLine);
+            *errorMessage = QCoreApplication::translate("ferolith-cli",
+                                                        "Das Anführungszeichen in Zeile %1 wird nicht geschlossen.")
+                                .arg(quoteLine);
         return false;
     }
     if (rowHasContent || !field.isEmpty()) {
@@ -128,7 +134,8 @@ bool parseCsv(const QString &input, QVector<QStringList> &rows, QString *errorMe
 int exportRecords(const QStringList &args, QTextStream &out, QTextStream &err)
 {
     if (args.size() != 1) {
-        err << "ferolith-cli: Aufruf: ferolith-cli export MASKE.dbm" << Qt::endl;
+        err << "ferolith-cli: " << QCoreApplication::translate("ferolith-cli", "Aufruf: ferolith-cli export MASKE.dbm")
+            << Qt::endl;
         return 2;
     }
     return CliCommands::withMask(args.first(), err, [&](const TMaskDocument &mask) {
@@ -166,12 +173,16 @@ int exportRecords(const QStringList &args, QTextStream &out, QTextStream &err)
 int importRecords(const QStringList &args, QTextStream &out, QTextStream &err)
 {
     if (args.size() != 2) {
-        err << "ferolith-cli: Aufruf: ferolith-cli import MASKE.dbm DATEI.csv" << Qt::endl;
+        err << "ferolith-cli: "
+            << QCoreApplication::translate("ferolith-cli", "Aufruf: ferolith-cli import MASKE.dbm DATEI.csv")
+            << Qt::endl;
         return 2;
     }
     QFile file(args.at(1));
     if (!file.open(QIODevice::ReadOnly)) {
-        err << "ferolith-cli: Die Datei „" << args.at(1) << "“ kann nicht gelesen werden." << Qt::endl;
+        err << "ferolith-cli: "
+            << QCoreApplication::translate("ferolith-cli", "Die Datei „%1“ kann nicht gelesen werden.").arg(args.at(1))
+            << Qt::endl;
         return 1;
     }
     QVector<QStringList> rows;
@@ -181,7 +192,9 @@ int importRecords(const QStringList &args, QTextStream &out, QTextStream &err)
         return 1;
     }
     if (rows.isEmpty()) {
-        err << "ferolith-cli: " << args.at(1) << ": Die Datei hat keine Kopfzeile mit den Feldnamen." << Qt::endl;
+        err << "ferolith-cli: " << args.at(1) << ": "
+            << QCoreApplication::translate("ferolith-cli", "Die Datei hat keine Kopfzeile mit den Feldnamen.")
+            << Qt::endl;
         return 1;
     }
     return CliCommands::withMask(args.first(), err, [&](const TMaskDocument &mask) {
@@ -195,10 +208,12 @@ int importRecords(const QStringList &args, QTextStream &out, QTextStream &err)
         QString why;
         if (!table.importRecords(columns, rows, &why)) {
             err << "ferolith-cli: " << args.at(1) << ": " << why.simplified() << Qt::endl
-                << "ferolith-cli: Nichts wurde übernommen." << Qt::endl;
+                << "ferolith-cli: " << QCoreApplication::translate("ferolith-cli", "Nichts wurde übernommen.")
+                << Qt::endl;
             return 1;
         }
-        out << QStringLiteral("%1 Datensätze übernommen.").arg(table.count() - before) << Qt::endl;
+        out << QCoreApplication::translate("ferolith-cli", "%1 Datensätze übernommen.").arg(table.count() - before)
+            << Qt::endl;
         return 0;
     });
 }

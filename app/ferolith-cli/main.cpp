@@ -1,6 +1,7 @@
 // ferolith-cli: the batch tool. It drives the same libraries as the desktop
 // program without showing a window.
 #include <QApplication>
+#include <QCoreApplication>
 #include <QStringList>
 #include <QTextStream>
 #include <cstdio>
@@ -15,7 +16,8 @@ namespace {
 
 QString usage()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+        "ferolith-cli",
         "Aufruf: ferolith-cli [--ini DATEI] BEFEHL [ARGUMENTE]\n"
         "\n"
         "Ferolith-Batchwerkzeug: bearbeitet Masken (.dbm) ohne sichtbares Fenster.\n"
@@ -98,6 +100,8 @@ int main(int argc, char *argv[])
         return CliDatabase::servers(args, out, err);
     if (command == QLatin1String("aliases"))
         return CliDatabase::aliases(args, out, err);
-    err << "ferolith-cli: unbekannter Befehl „" << command << "“ (siehe --help)" << Qt::endl;
+    err << "ferolith-cli: "
+        << QCoreApplication::translate("ferolith-cli", "unbekannter Befehl „%1“ (siehe --help)").arg(command)
+        << Qt::endl;
     return 2;
 }

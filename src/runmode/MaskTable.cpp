@@ -6,6 +6,7 @@
 #include "Edits.h"
 #include "MyBtn.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -105,18 +106,19 @@ bool TMaskTable::open(const TConnectionSettings &settings, const QString &table,
     m_settings = tableSettings;
     m_fields = fields;
     if (m_table.isEmpty()) {
-        *why = QStringLiteral("Die Maske hat keine Tabelle (Maskenoptionen).");
+        *why = QCoreApplication::translate("TMaskTable", "Die Maske hat keine Tabelle (Maskenoptionen).");
         return false;
     }
     m_connection = std::make_unique<TDbConnection>();
     // Run mode without a database is the preview; the status bar says why.
     if (!m_connection->Connect(settings, nullptr, /*reportFailure*/ false) || !m_connection->engine()) {
-        *why = QStringLiteral("Keine Verbindung zur Datenbank: %1").arg(m_connection->LastError());
+        *why = QCoreApplication::translate("TMaskTable", "Keine Verbindung zur Datenbank: %1")
+                   .arg(m_connection->LastError());
         return false;
     }
     TSqlEngine *engine = m_connection->engine();
     if (!engine->tableExists(m_table)) {
-        *why = QStringLiteral("Die Tabelle „%1“ ist noch nicht erzeugt.").arg(m_table);
+        *why = QCoreApplication::translate("TMaskTable", "Die Tabelle „%1“ ist noch nicht erzeugt.").arg(m_table);
         return false;
     }
     QString error;
@@ -125,7 +127,8 @@ bool TMaskTable::open(const TConnectionSettings &settings, const QString &table,
     for (const TColumnInfo &c : std::as_const(m_columns))
         m_columnNames.insert(c.Name.toLower(), c.Name);
     if (!m_columnNames.contains(idColumn().toLower())) {
-        *why = QStringLiteral("Die Tabelle „%1“ hat kein Feld „QXID“; bitte neu erzeugen.").arg(m_table);
+        *why = QCoreApplication::translate("TMaskTable", "Die Tabelle „%1“ hat kein Feld „QXID“; bitte neu erzeugen.")
+                   .arg(m_table);
         return false;
     }
     for (TRunField &f : m_fields) {
@@ -344,13 +347,15 @@ QStringList TMaskTable::lookupValues(const QString &table, const QString &field,
     const QString name = table.trimmed();
     auto fail = [&](const QString &why) {
         if (errorMessage)
-            *errorMessage = QStringLiteral("Die Auswahltabelle „%1“ kann nicht gelesen werden: %2").arg(name, why);
+            *errorMessage
+                = QCoreApplication::translate("TMaskTable", "Die Auswahltabelle „%1“ kann nicht gelesen werden: %2")
+                      .arg(name, why);
         return QStringList();
     };
     if (!m_engine || name.isEmpty())
-        return fail(QStringLiteral("Keine Verbindung."));
+        return fail(QCoreApplication::translate("TMaskTable", "Keine Verbindung."));
     if (!m_engine->tableExists(name))
-        return fail(QStringLiteral("Die Tabelle ist noch nicht erzeugt."));
+        return fail(QCoreApplication::translate("TMaskTable", "Die Tabelle ist noch nicht erzeugt."));
     QString error;
     const QVector<TColumnInfo> columns = m_engine->columns(name, &error);
     const auto columnNamed = [&](const QString &wanted) {
@@ -366,7 +371,7 @@ QStringList TMaskTable::lookupValues(const QString &table, const QString &field,
         if (column.isEmpty() && !c.Name.startsWith(QLatin1String("QX"), Qt::CaseInsensitive))
             column = c.Name;
     if (column.isEmpty())
-        return fail(error.isEmpty() ? QStringLiteral("Sie hat keine Datenfelder.") : error);
+        return fail(error.isEmpty() ? QCoreApplication::translate("TMaskTable", "Sie hat keine Datenfelder.") : error);
     TRunField plain;
     plain.Name = column;
     for (const TColumnInfo &c : columns)
@@ -388,7 +393,8 @@ bool TMaskTable::toValue(const TRunField &field, const QString &input, QVariant 
                                                                                                    : input.trimmed();
     auto fail = [&](const QString &what) {
         if (errorMessage)
-            *errorMessage = QStringLiteral("Im Feld „%1“ ist „%2“ %3.").arg(field.Description, text, what);
+            *errorMessage = QCoreApplication::translate("TMaskTable", "Im Feld „%1“ ist „%2“ %3.")
+                                .arg(field.Description, text, what);
         return false;
     };
     if (text.isEmpty()) {
@@ -400,7 +406,7 @@ bool TMaskTable::toValue(const TRunField &field, const QString &input, QVariant 
     case TValueFamily::Integer: {
         const qint64 n = german().toLongLong(text, &ok);
         if (!ok)
-            return fail(QStringLiteral("keine ganze Zahl"));
+            return fail(QCoreApplication::translate("TMaskTable", "keine ganze Zahl"));
         *value = n;
         return true;
     }
@@ -410,7 +416,7 @@ bool TMaskTable::toValue(const TRunField &field, const QString &input, QVariant 
         if (!ok)
             d = QLocale::c().toDouble(text, &ok);
         if (!ok)
-            return fail(QStringLiteral("keine Zahl"));
+            return fail(QCoreApplication::translate("TMaskTable", "keine Zahl"));
         if (field.Family == TValueFamily::Decimal)
             *value = QString::number(d, 'f', 4);
         else
@@ -427,7 +433,7 @@ bool TMaskTable::toValue(const TRunField &field, const QString &input, QVariant 
                 return true;
             }
         }
-        return fail(QStringLiteral("kein Datum (TT.MM.JJJJ)"));
+        return fail(QCoreApplication::translate("TMaskTable", "kein Datum (TT.MM.JJJJ)"));
     }
     case TValueFamily::Time:
         for (const char *format : {"HH:mm:ss", "H:mm:ss", "HH:mm", "H:mm"}) {
@@ -437,7 +443,7 @@ bool TMaskTable::toValue(const TRunField &field, const QString &input, QVariant 
                 return true;
             }
         }
-        return fail(QStringLiteral("keine Uhrzeit (HH:MM)"));
+        return fail(QCoreApplication::translate("TMaskTable", "keine Uhrzeit (HH:MM)"));
     case TValueFamily::Timestamp:
         for (const char *format : {"dd.MM.yyyy HH:mm:ss", "dd.MM.yyyy HH:mm", "dd.MM.yyyy", "yyyy-MM-ddTHH:mm:ss",
                                    "yyyy-MM-dd HH:mm:ss"}) {
@@ -447,7 +453,7 @@ bool TMaskTable::toValue(const TRunField &field, const QString &input, QVariant 
                 return true;
             }
         }
-        return fail(QStringLiteral("kein Zeitpunkt (TT.MM.JJJJ HH:MM)"));
+        return fail(QCoreApplication::translate("TMaskTable", "kein Zeitpunkt (TT.MM.JJJJ HH:MM)"));
     case TValueFamily::Boolean: {
         const QString t = text.toLower();
         if (QStringList{QStringLiteral("1"), QStringLiteral("ja"), QStringLiteral("j"), QStringLiteral("true"),
@@ -459,16 +465,17 @@ bool TMaskTable::toValue(const TRunField &field, const QString &input, QVariant 
                      .contains(t))
             *value = false;
         else
-            return fail(QStringLiteral("weder Ja noch Nein"));
+            return fail(QCoreApplication::translate("TMaskTable", "weder Ja noch Nein"));
         return true;
     }
     case TValueFamily::Text:
     case TValueFamily::Other:
         if (field.MaxLength > 0 && text.size() > field.MaxLength) {
             if (errorMessage)
-                *errorMessage = QStringLiteral("Im Feld „%1“ sind höchstens %2 Zeichen erlaubt.")
-                                    .arg(field.Description)
-                                    .arg(field.MaxLength);
+                *errorMessage
+                    = QCoreApplication::translate("TMaskTable", "Im Feld „%1“ sind höchstens %2 Zeichen erlaubt.")
+                          .arg(field.Description)
+                          .arg(field.MaxLength);
             return false;
         }
         *value = text;
@@ -586,11 +593,16 @@ bool TMaskTable::applyDefaults(TRecord &record, QString *errorMessage)
     return valuesFor(QStringLiteral("Default"), record, true, errorMessage);
 }
 
+QString TMaskTable::requiredText(const QString &description)
+{
+    return QCoreApplication::translate("TMaskTable", "Das Feld „%1“ muss ausgefüllt werden.").arg(description);
+}
+
 QString TMaskTable::checkRequired(const TRecord &record) const
 {
     for (const TRunField &f : m_fields) {
         if (f.Required && isEmptyValue(record.Values.value(f.Column)))
-            return QStringLiteral("Das Feld „%1“ muss ausgefüllt werden.").arg(f.Description);
+            return requiredText(f.Description);
     }
     return QString();
 }
@@ -644,8 +656,9 @@ bool TMaskTable::insertRow(TRecord &record, QString *errorMessage)
         query.addBindValue(v);
     if (!query.exec()) {
         if (errorMessage)
-            *errorMessage = QStringLiteral("Der Datensatz konnte nicht gespeichert werden:\n%1")
-                                .arg(query.lastError().text().trimmed());
+            *errorMessage
+                = QCoreApplication::translate("TMaskTable", "Der Datensatz konnte nicht gespeichert werden:\n%1")
+                      .arg(query.lastError().text().trimmed());
         return false;
     }
     qint64 id = -1;
@@ -671,10 +684,11 @@ bool TMaskTable::importRecords(const QStringList &columns, const QVector<QString
         return false;
     };
     if (!m_engine)
-        return fail(QStringLiteral("Die Tabelle ist nicht geöffnet."));
+        return fail(QCoreApplication::translate("TMaskTable", "Die Tabelle ist nicht geöffnet."));
     for (const QString &name : columns)
         if (columnOf(name).isEmpty())
-            return fail(QStringLiteral("Die Spalte „%1“ gibt es in der Tabelle „%2“ nicht.").arg(name, m_table));
+            return fail(QCoreApplication::translate("TMaskTable", "Die Spalte „%1“ gibt es in der Tabelle „%2“ nicht.")
+                            .arg(name, m_table));
     const QStringList counted = m_settings.Dateizaehler.trimmed().isEmpty()
         ? QStringList()
         : TableDescription::splitFields(m_settings.Felder);
@@ -683,10 +697,13 @@ bool TMaskTable::importRecords(const QStringList &columns, const QVector<QString
     QVector<TRecord> records;
     records.reserve(rows.size());
     for (int i = 0; i < rows.size(); ++i) {
-        const QString where = QStringLiteral("Zeile %1: ").arg(firstRowNumber + i);
+        const QString where = QCoreApplication::translate("TMaskTable", "Zeile %1: ").arg(firstRowNumber + i);
         const QStringList &cells = rows.at(i);
         if (cells.size() != columns.size())
-            return fail(where + QStringLiteral("%1 Werte statt %2.").arg(cells.size()).arg(columns.size()));
+            return fail(where
+                        + QCoreApplication::translate("TMaskTable", "%1 Werte statt %2.")
+                              .arg(cells.size())
+                              .arg(columns.size()));
         TRecord record;
         for (const TColumnInfo &c : std::as_const(m_columns))
             record.Values.insert(c.Name, QVariant());
@@ -725,12 +742,12 @@ bool TMaskTable::importRecords(const QStringList &columns, const QVector<QString
             numbered = true;
             if (!setText(record, name, number, &error)) {
                 m_engine->rollback();
-                return fail(QStringLiteral("Zeile %1: ").arg(firstRowNumber + i) + error);
+                return fail(QCoreApplication::translate("TMaskTable", "Zeile %1: ").arg(firstRowNumber + i) + error);
             }
         }
         if (!insertRow(record, &error)) {
             m_engine->rollback();
-            return fail(QStringLiteral("Zeile %1: ").arg(firstRowNumber + i) + error);
+            return fail(QCoreApplication::translate("TMaskTable", "Zeile %1: ").arg(firstRowNumber + i) + error);
         }
     }
     if (!m_engine->commit(&error)) {
@@ -764,8 +781,10 @@ TMaskTable::TSaveResult TMaskTable::update(const TRecord &original, TRecord &cha
         m_engine->rollback();
         if (errorMessage)
             *errorMessage = current.Id < 0
-                ? QStringLiteral("Der Datensatz wurde inzwischen von einem anderen Benutzer gelöscht.")
-                : QStringLiteral("Der Datensatz wurde inzwischen von einem anderen Benutzer geändert.");
+                ? QCoreApplication::translate("TMaskTable",
+                                              "Der Datensatz wurde inzwischen von einem anderen Benutzer gelöscht.")
+                : QCoreApplication::translate("TMaskTable",
+                                              "Der Datensatz wurde inzwischen von einem anderen Benutzer geändert.");
         return TSaveResult::Conflict;
     }
     QStringList sets;
@@ -796,7 +815,9 @@ TMaskTable::TSaveResult TMaskTable::update(const TRecord &original, TRecord &cha
             error = query.lastError().text().trimmed();
             m_engine->rollback();
             if (errorMessage)
-                *errorMessage = QStringLiteral("Der Datensatz konnte nicht gespeichert werden:\n%1").arg(error);
+                *errorMessage
+                    = QCoreApplication::translate("TMaskTable", "Der Datensatz konnte nicht gespeichert werden:\n%1")
+                          .arg(error);
             return TSaveResult::Failed;
         }
         if (query.numRowsAffected() > 0)
@@ -823,7 +844,8 @@ bool TMaskTable::remove(qint64 id, QString *errorMessage)
         || !m_engine->exec(QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(q(m_table), q(columnOf(idColumn()))), &error,
                            {id})) {
         if (errorMessage)
-            *errorMessage = QStringLiteral("Der Datensatz konnte nicht gelöscht werden:\n%1").arg(error);
+            *errorMessage = QCoreApplication::translate("TMaskTable", "Der Datensatz konnte nicht gelöscht werden:\n%1")
+                                .arg(error);
         return false;
     }
     return refresh(errorMessage);

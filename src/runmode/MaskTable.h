@@ -81,7 +81,9 @@ public:
     bool newRecord(TRecord &record, QString *errorMessage);
     // Empty fields that have a default value get it.
     bool applyDefaults(TRecord &record, QString *errorMessage);
-    // The German message for the first required field left empty, or empty.
+    // The message of a required field left empty.
+    static QString requiredText(const QString &description);
+    // The message for the first required field left empty, or empty.
     QString checkRequired(const TRecord &record) const;
 
     // The values a lookup field offers: the key values of another table of

@@ -1,5 +1,6 @@
 #include "ValueMacros.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -28,20 +29,22 @@ bool TValueMacros::nextNumber(const QString &counterFile, QString *number, QStri
 {
     auto fail = [&](const QString &why) {
         if (errorMessage)
-            *errorMessage = QStringLiteral("Der Dateizähler „%1“ kann nicht benutzt werden: %2").arg(counterFile, why);
+            *errorMessage
+                = QCoreApplication::translate("TValueMacros", "Der Dateizähler „%1“ kann nicht benutzt werden: %2")
+                      .arg(counterFile, why);
         return false;
     };
     if (counterFile.trimmed().isEmpty())
-        return fail(QStringLiteral("Kein Dateiname angegeben."));
+        return fail(QCoreApplication::translate("TValueMacros", "Kein Dateiname angegeben."));
     const QFileInfo info(counterFile);
     if (!QDir().mkpath(info.absolutePath()))
-        return fail(QStringLiteral("Der Ordner fehlt."));
+        return fail(QCoreApplication::translate("TValueMacros", "Der Ordner fehlt."));
     // The lock file makes read, count and write one step for every program
     // that draws from the counter; a lock left by a crashed program expires.
     QLockFile lock(counterFile + QStringLiteral(".lck"));
     lock.setStaleLockTime(30000);
     if (!lock.tryLock(10000))
-        return fail(QStringLiteral("Die Datei ist gesperrt."));
+        return fail(QCoreApplication::translate("TValueMacros", "Die Datei ist gesperrt."));
     QString last;
     QFile in(counterFile);
     if (in.exists()) {
@@ -55,7 +58,8 @@ bool TValueMacros::nextNumber(const QString &counterFile, QString *number, QStri
         bool ok = false;
         value = last.toLongLong(&ok);
         if (!ok || value < 0)
-            return fail(QStringLiteral("Sie enthält keine Zahl („%1“).").arg(last.left(40)));
+            return fail(
+                QCoreApplication::translate("TValueMacros", "Sie enthält keine Zahl („%1“).").arg(last.left(40)));
     }
     const QString next = QStringLiteral("%1").arg(value + 1, int(last.size()), 10, QLatin1Char('0'));
     QSaveFile out(counterFile);

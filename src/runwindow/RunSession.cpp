@@ -71,9 +71,9 @@ TRunSession::TRunSession(TMaskDocument *document, QWidget *dialogParent)
 {
     setObjectName(QLatin1String(kSessionName));
     m_table.Macros.AskForNumber = [this](const QString &file) {
-        return UserDialogs::instance().messageDlg(
-                   m_dialogParent, QStringLiteral("Soll eine neue Nummer aus „%1“ vergeben werden?").arg(file),
-                   mtConfirmation, mbYes | mbNo)
+        return UserDialogs::instance().messageDlg(m_dialogParent,
+                                                  tr("Soll eine neue Nummer aus „%1“ vergeben werden?").arg(file),
+                                                  mtConfirmation, mbYes | mbNo)
             == mrYes;
     };
     createNavigator();
@@ -405,9 +405,9 @@ bool TRunSession::askToSave()
         Cancel();
         return true;
     }
-    switch (UserDialogs::instance().messageDlg(m_dialogParent,
-                                               QStringLiteral("Der Datensatz wurde geändert.\r\rSollen die Änderungen gespeichert werden?"),
-                                               mtConfirmation, mbYes | mbNo | mbCancel)) {
+    switch (UserDialogs::instance().messageDlg(
+        m_dialogParent, tr("Der Datensatz wurde geändert.\r\rSollen die Änderungen gespeichert werden?"),
+        mtConfirmation, mbYes | mbNo | mbCancel)) {
     case mrYes:
         return Post();
     case mrNo:
@@ -498,13 +498,15 @@ bool TRunSession::Post()
         message(error);
         // The required field that is missing gets the focus.
         for (const TRunField &f : m_table.fields())
-            if (error.contains(QStringLiteral("„%1“").arg(f.Description)))
+            if (error == TMaskTable::requiredText(f.Description))
                 focusField(f.Name);
         return false;
     }
     if (result == TMaskTable::TSaveResult::Conflict) {
-        if (UserDialogs::instance().messageDlg(m_dialogParent, error + QStringLiteral("\r\rSoll der Datensatz neu geladen werden? Ihre Änderungen gehen dabei verloren."),
-                                               mtWarning, mbYes | mbNo)
+        if (UserDialogs::instance().messageDlg(
+                m_dialogParent,
+                tr("%1\r\rSoll der Datensatz neu geladen werden? Ihre Änderungen gehen dabei verloren.").arg(error),
+                mtWarning, mbYes | mbNo)
             == mrYes) {
             m_modified = false;
             m_inserting = false;
@@ -534,8 +536,8 @@ bool TRunSession::Delete()
 {
     if (!m_table.isOpen() || m_row < 0 || m_inserting)
         return false;
-    if (UserDialogs::instance().messageDlg(m_dialogParent, QStringLiteral("Soll der Datensatz gelöscht werden?"),
-                                           mtConfirmation, mbYes | mbNo)
+    if (UserDialogs::instance().messageDlg(m_dialogParent, tr("Soll der Datensatz gelöscht werden?"), mtConfirmation,
+                                           mbYes | mbNo)
         != mrYes)
         return false;
     QString error;
@@ -587,7 +589,7 @@ bool TRunSession::Find(const QString &text)
         return false;
     }
     if (row < 0) {
-        UserDialogs::instance().messageDlg(m_dialogParent, QStringLiteral("Kein Datensatz gefunden."), mtInformation, mbOK);
+        UserDialogs::instance().messageDlg(m_dialogParent, tr("Kein Datensatz gefunden."), mtInformation, mbOK);
         return false;
     }
     return moveTo(row);
@@ -599,14 +601,14 @@ void TRunSession::FindDialog()
         return;
     QDialog dialog(m_dialogParent);
     dialog.setObjectName(QStringLiteral("FindDialog"));
-    dialog.setWindowTitle(QStringLiteral("Datensatz suchen"));
+    dialog.setWindowTitle(tr("Datensatz suchen"));
     auto *layout = new QFormLayout(&dialog);
     auto *text = new QLineEdit(&dialog);
     text->setObjectName(QStringLiteral("FindText"));
     text->setMinimumWidth(240);
-    layout->addRow(QStringLiteral("Suchen nach „%1“:").arg(m_table.indexColumn()), text);
+    layout->addRow(tr("Suchen nach „%1“:").arg(m_table.indexColumn()), text);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
-    buttons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Abbrechen"));
+    buttons->button(QDialogButtonBox::Cancel)->setText(tr("Abbrechen"));
     connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     layout->addRow(buttons);
@@ -617,10 +619,10 @@ void TRunSession::FindDialog()
 QString TRunSession::statusText() const
 {
     if (!m_table.isOpen())
-        return QStringLiteral("Keine Daten: %1").arg(m_reason);
+        return tr("Keine Daten: %1").arg(m_reason);
     if (m_inserting)
-        return QStringLiteral("Neuer Datensatz (%1 vorhanden)").arg(m_table.count());
-    return QStringLiteral("Datensatz %1 von %2").arg(m_row + 1).arg(m_table.count());
+        return tr("Neuer Datensatz (%1 vorhanden)").arg(m_table.count());
+    return tr("Datensatz %1 von %2").arg(m_row + 1).arg(m_table.count());
 }
 
 void TRunSession::resetGrid()
@@ -803,15 +805,15 @@ void TRunSession::createNavigator()
         std::function<void()> run;
     };
     const Command commands[] = {
-        {"NavFirst", QStringLiteral("Erster"), QKeySequence(Qt::CTRL | Qt::Key_Home), [this] { First(); }},
-        {"NavPrior", QStringLiteral("Voriger"), QKeySequence(Qt::Key_PageUp), [this] { Prior(); }},
-        {"NavNext", QStringLiteral("Nächster"), QKeySequence(Qt::Key_PageDown), [this] { Next(); }},
-        {"NavLast", QStringLiteral("Letzter"), QKeySequence(Qt::CTRL | Qt::Key_End), [this] { Last(); }},
-        {"NavInsert", QStringLiteral("Neu"), QKeySequence(Qt::Key_Insert), [this] { Insert(); }},
-        {"NavPost", QStringLiteral("Speichern"), QKeySequence(Qt::Key_F2), [this] { Post(); }},
-        {"NavDelete", QStringLiteral("Löschen"), QKeySequence(Qt::CTRL | Qt::Key_Delete), [this] { Delete(); }},
-        {"NavCancel", QStringLiteral("Verwerfen"), QKeySequence(Qt::Key_Escape), [this] { Cancel(); }},
-        {"NavFind", QStringLiteral("Suchen"), QKeySequence(Qt::Key_F3), [this] { FindDialog(); }},
+        {"NavFirst", tr("Erster"), QKeySequence(Qt::CTRL | Qt::Key_Home), [this] { First(); }},
+        {"NavPrior", tr("Voriger"), QKeySequence(Qt::Key_PageUp), [this] { Prior(); }},
+        {"NavNext", tr("Nächster"), QKeySequence(Qt::Key_PageDown), [this] { Next(); }},
+        {"NavLast", tr("Letzter"), QKeySequence(Qt::CTRL | Qt::Key_End), [this] { Last(); }},
+        {"NavInsert", tr("Neu"), QKeySequence(Qt::Key_Insert), [this] { Insert(); }},
+        {"NavPost", tr("Speichern"), QKeySequence(Qt::Key_F2), [this] { Post(); }},
+        {"NavDelete", tr("Löschen"), QKeySequence(Qt::CTRL | Qt::Key_Delete), [this] { Delete(); }},
+        {"NavCancel", tr("Verwerfen"), QKeySequence(Qt::Key_Escape), [this] { Cancel(); }},
+        {"NavFind", tr("Suchen"), QKeySequence(Qt::Key_F3), [this] { FindDialog(); }},
     };
     for (const Command &c : commands) {
         auto *a = new QAction(c.caption, m_navigator);

@@ -80,13 +80,13 @@ void TMainForm::FormCreate()
 {
     OpenDialog.kind = TFileDialog::Open;
     OpenDialog.defaultExt = QStringLiteral("dbm");
-    OpenDialog.filter = QStringLiteral("Quorbex Maske (*.dbm)|*.dbm;|Quorbex Maske Backup |*.dbm_bak");
+    OpenDialog.filter = tr("Quorbex Maske (*.dbm)|*.dbm;|Quorbex Maske Backup |*.dbm_bak");
     OpenDialog.allowMultiSelect = true;
     OpenDialog.fileMustExist = true;
 
     SaveDialog1.kind = TFileDialog::Save;
     SaveDialog1.defaultExt = QStringLiteral("dcf");
-    SaveDialog1.filter = QStringLiteral("Maske (*.dbm)|*.dbm");
+    SaveDialog1.filter = tr("Maske (*.dbm)|*.dbm");
     SaveDialog1.overwritePrompt = true;
 
     const QString ini = AppPaths::settingsFile();

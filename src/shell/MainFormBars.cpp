@@ -284,7 +284,9 @@ void TMainForm::createStatusBar()
     m_statusRecord = new QLabel(panel);
     m_statusRecord->setObjectName(QStringLiteral("StatusRecord"));
     // "Datensatz 12345 von 100000" stays readable beside a long path.
-    m_statusRecord->setMinimumWidth(m_statusRecord->fontMetrics().horizontalAdvance(QStringLiteral("Datensatz 0000000 von 0000000")));
+    m_statusRecord->setMinimumWidth(m_statusRecord->fontMetrics().horizontalAdvance(
+        QCoreApplication::translate("TRunSession", "Datensatz %1 von %2")
+            .arg(QStringLiteral("0000000"), QStringLiteral("0000000"))));
     layout->addWidget(m_statusPath, 1);
     layout->addWidget(m_statusRecord);
     layout->addSpacing(12);

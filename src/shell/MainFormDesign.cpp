@@ -95,12 +95,15 @@ void TMainForm::createDesignTools()
         const char *caption;
         int tag;
     } items[] = {
-        {"dxBarButton1", "An &Raster anordnen", 1},       {"dxBarButton2", "In &Vordergrund stellen", 2},
-        {"dxBarButton3", "In &Hintergrund stellen", 3},   {"dxBarButton5", "G&röße funktionen...", 5},
-        {"dxBarButton6", "Raster &Optionen...", 6},       {"dxBarButton4", "&Anordungs funktionen...", 7},
+        {"dxBarButton1", QT_TR_NOOP("An &Raster anordnen"), 1},
+        {"dxBarButton2", QT_TR_NOOP("In &Vordergrund stellen"), 2},
+        {"dxBarButton3", QT_TR_NOOP("In &Hintergrund stellen"), 3},
+        {"dxBarButton5", QT_TR_NOOP("G&röße funktionen..."), 5},
+        {"dxBarButton6", QT_TR_NOOP("Raster &Optionen..."), 6},
+        {"dxBarButton4", QT_TR_NOOP("&Anordungs funktionen..."), 7},
     };
     for (const auto &item : items) {
-        QAction *a = m_popupMenu1->addAction(QString::fromUtf8(item.caption));
+        QAction *a = m_popupMenu1->addAction(tr(item.caption));
         a->setObjectName(QLatin1String(item.name));
         a->setData(item.tag);
         connect(a, &QAction::triggered, this, [this, tag = item.tag] { PopItemsClick(tag); });
