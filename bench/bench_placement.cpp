@@ -132,7 +132,7 @@ int main(int argc, char **argv)
     std::printf("components on the mask: %d (before placing: %d, placed: %d)\n", after, before,
                 after - before);
 
-    std::printf("undo history: %.1f MiB\n", double(TUndoStream::instance().size()) / (1024.0 * 1024.0));
+    std::printf("undo history: %.1f MiB\n", double(TUndoStream::instance().storedBytes()) / (1024.0 * 1024.0));
 
     TObjInsp *insp = form.ObjInsp();
     if (!insp) {

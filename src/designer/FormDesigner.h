@@ -275,6 +275,8 @@ public:
     void CutToClipboard();
     void PasteFromClipboard();
     void SaveToStream(QIODevice &stream);
+    // What SaveToStream writes, one binary stream per control of the layout.
+    QList<QByteArray> layoutStreams() const;
     void LoadFromStream(QIODevice &stream);
     void SaveComponentToStream(QIODevice &stream, QWidget *component, TDFMFormat format);
     void LoadComponentFromStream(QIODevice &stream, QWidget *component, TDFMFormat format);

@@ -1,5 +1,6 @@
 #include "UndoRedo.h"
 
+#include <QSet>
 #include <QtEndian>
 
 #include "Components.h"
@@ -43,10 +44,78 @@ QByteArray TUndoStream::snapshot(int index) const
 
 // ---- whole-form snapshots ----
 
+namespace {
+// Controls per piece: small enough that a changed control costs little
+// memory, large enough that the pieces' own bookkeeping stays small.
+constexpr int kControlsPerPiece = 16;
+} // namespace
+
 void TUndoStream::SaveUndo(TCustomFormDesigner *designer)
 {
-    appendSnapshotStart();
-    designer->SaveToStream(*this);
+    const FormSnapshot *previous = m_lastForm >= 0 ? &m_forms.at(m_lastForm) : nullptr;
+    FormSnapshot snapshot;
+    QByteArray piece;
+    int inPiece = 0;
+    const auto close = [&] {
+        const qsizetype at = snapshot.pieces.size();
+        snapshot.size += piece.size();
+        if (previous && at < previous->pieces.size() && previous->pieces.at(at) == piece)
+            snapshot.pieces.append(previous->pieces.at(at));
+        else {
+            piece.squeeze();
+            snapshot.pieces.append(piece);
+        }
+        piece = QByteArray();
+        inPiece = 0;
+    };
+    for (const QByteArray &control : designer->layoutStreams()) {
+        piece += control;
+        if (++inPiece == kControlsPerPiece)
+            close();
+    }
+    if (inPiece > 0)
+        close();
+
+    m_positions.append(m_formEnd);
+    m_current = int(m_positions.size()) - 1;
+    m_formEnd += snapshot.size;
+    m_forms.resize(m_positions.size());
+    m_forms.last() = std::move(snapshot);
+    m_lastForm = m_current;
+}
+
+// The bytes from the snapshot's offset up to the next later offset: a
+// snapshot without controls shares its offset with the one saved after it,
+// which then ends it.
+QByteArray TUndoStream::formSnapshot(int index) const
+{
+    const qint64 start = m_positions.at(index);
+    while (index + 1 < m_positions.size() && m_positions.at(index + 1) == start)
+        ++index;
+    QByteArray bytes;
+    if (index >= m_forms.size())
+        return bytes;
+    const FormSnapshot &snapshot = m_forms.at(index);
+    bytes.reserve(snapshot.size);
+    for (const QByteArray &piece : snapshot.pieces)
+        bytes += piece;
+    return bytes;
+}
+
+qint64 TUndoStream::storedBytes() const
+{
+    qint64 total = size() + m_positions.size() * qint64(sizeof(qint64))
+                   + m_forms.size() * qint64(sizeof(FormSnapshot));
+    QSet<const char *> counted;
+    for (const FormSnapshot &snapshot : m_forms) {
+        total += snapshot.pieces.size() * qint64(sizeof(QByteArray));
+        for (const QByteArray &piece : snapshot.pieces)
+            if (!counted.contains(piece.constData())) {
+                counted.insert(piece.constData());
+                total += piece.capacity();
+            }
+    }
+    return total;
 }
 
 // The engine reads to the end of whatever it is handed; given the whole
@@ -54,20 +123,18 @@ void TUndoStream::SaveUndo(TCustomFormDesigner *designer)
 // it gets the one snapshot alone.
 void TUndoStream::loadForm(TCustomFormDesigner *designer, int index)
 {
-    seek(m_positions.at(index));
     // A history nothing was saved to holds no design: loading its empty
     // stream would clear the mask instead of restoring anything.
     if (neverSaved())
         return;
     QBuffer one;
-    one.setData(snapshot(index));
+    one.setData(formSnapshot(index));
     one.open(QIODevice::ReadOnly);
     try {
         designer->LoadFromStream(one);
     } catch (const EFormDesigner &) {
         // An unreadable snapshot counts as loaded; the steps go on as usual.
     }
-    seek(m_positions.at(index) + one.pos());
 }
 
 bool TUndoStream::stepBack(const std::function<void(int)> &load)

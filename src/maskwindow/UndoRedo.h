@@ -19,6 +19,12 @@ class TCustomFormDesigner;
 // Whole-form snapshots (SaveUndo/Undo/Redo) and component-by-component ones
 // (SaveUndoComponents/UndoComponents/RedoComponents) are laid out differently
 // and must not be mixed in one history.
+//
+// Whole-form snapshots are kept beside the buffer, in pieces of a few
+// controls each: a piece that equals the same piece of the snapshot before
+// shares its bytes, so a history of a growing mask does not store every
+// control again with each step. Their offsets count as if they were
+// appended to the stream.
 class TUndoStream : public QBuffer
 {
     Q_OBJECT
@@ -30,6 +36,8 @@ public:
 
     int current() const { return m_current; }
     const QList<qint64> &positions() const { return m_positions; }
+    // The memory the snapshots take, bytes shared between snapshots counted once.
+    qint64 storedBytes() const;
 
     void SaveUndo(TCustomFormDesigner *designer);
     bool Undo(TCustomFormDesigner *designer);
@@ -50,9 +58,20 @@ private:
     bool stepBack(const std::function<void(int)> &load);
     bool stepForward(const std::function<void(int)> &load);
     void loadComponents(TCustomFormDesigner *designer, int index, int extra);
+    QByteArray formSnapshot(int index) const;
+
+    struct FormSnapshot
+    {
+        QList<QByteArray> pieces;
+        qint64 size = 0;
+    };
 
     int m_current = 0;
     QList<qint64> m_positions{0};
+    // By snapshot index; empty for component snapshots and for index 0.
+    QList<FormSnapshot> m_forms;
+    qint64 m_formEnd = 0;
+    int m_lastForm = -1; // the snapshot saved last, whose pieces the next one may share
 };
 
 // Records the designer's design in the program's history (TUndoStream::instance()).
