@@ -1,5 +1,6 @@
 #include "UndoRedo.h"
 
+#include <QHash>
 #include <QSet>
 #include <QtEndian>
 
@@ -45,35 +46,39 @@ QByteArray TUndoStream::snapshot(int index) const
 // ---- whole-form snapshots ----
 
 namespace {
-// Controls per piece: small enough that a changed control costs little
-// memory, large enough that the pieces' own bookkeeping stays small.
-constexpr int kControlsPerPiece = 16;
+// A piece ends behind a control whose bytes hash to a multiple of this, so
+// pieces end at the same controls whatever was inserted before them: a
+// control placed in the middle changes its own piece only.
+constexpr uint kPieceEnd = 16;
+// Nor does a piece grow past this many controls.
+constexpr int kMaxControlsPerPiece = 64;
 } // namespace
 
 void TUndoStream::SaveUndo(TCustomFormDesigner *designer)
 {
-    const FormSnapshot *previous = m_lastForm >= 0 ? &m_forms.at(m_lastForm) : nullptr;
     FormSnapshot snapshot;
+    QHash<QByteArray, QByteArray> pieces;
     QByteArray piece;
     int inPiece = 0;
     const auto close = [&] {
-        const qsizetype at = snapshot.pieces.size();
         snapshot.size += piece.size();
-        if (previous && at < previous->pieces.size() && previous->pieces.at(at) == piece)
-            snapshot.pieces.append(previous->pieces.at(at));
-        else {
-            piece.squeeze();
-            snapshot.pieces.append(piece);
+        QByteArray stored = m_lastPieces.value(piece);
+        if (stored.isNull()) {
+            // The stream's property names repeat from control to control.
+            stored = qCompress(piece, 1);
+            stored.squeeze();
         }
+        snapshot.pieces.append(stored);
+        pieces.insert(piece, stored);
         piece = QByteArray();
         inPiece = 0;
     };
     for (const QByteArray &control : designer->layoutStreams()) {
         piece += control;
-        if (++inPiece == kControlsPerPiece)
+        if (qHash(control) % kPieceEnd == 0 || ++inPiece == kMaxControlsPerPiece)
             close();
     }
-    if (inPiece > 0)
+    if (!piece.isEmpty())
         close();
 
     m_positions.append(m_formEnd);
@@ -81,7 +86,7 @@ void TUndoStream::SaveUndo(TCustomFormDesigner *designer)
     m_formEnd += snapshot.size;
     m_forms.resize(m_positions.size());
     m_forms.last() = std::move(snapshot);
-    m_lastForm = m_current;
+    m_lastPieces = std::move(pieces);
 }
 
 // The bytes from the snapshot's offset up to the next later offset: a
@@ -98,7 +103,7 @@ QByteArray TUndoStream::formSnapshot(int index) const
     const FormSnapshot &snapshot = m_forms.at(index);
     bytes.reserve(snapshot.size);
     for (const QByteArray &piece : snapshot.pieces)
-        bytes += piece;
+        bytes += qUncompress(piece);
     return bytes;
 }
 
@@ -106,6 +111,8 @@ qint64 TUndoStream::storedBytes() const
 {
     qint64 total = size() + m_positions.size() * qint64(sizeof(qint64))
                    + m_forms.size() * qint64(sizeof(FormSnapshot));
+    for (auto it = m_lastPieces.cbegin(); it != m_lastPieces.cend(); ++it)
+        total += it.key().capacity() + qint64(sizeof(QByteArray)) * 2;
     QSet<const char *> counted;
     for (const FormSnapshot &snapshot : m_forms) {
         total += snapshot.pieces.size() * qint64(sizeof(QByteArray));

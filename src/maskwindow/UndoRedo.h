@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QBuffer>
+#include <QHash>
 #include <QList>
 #include <functional>
 
@@ -20,8 +21,8 @@ class TCustomFormDesigner;
 // (SaveUndoComponents/UndoComponents/RedoComponents) are laid out differently
 // and must not be mixed in one history.
 //
-// Whole-form snapshots are kept beside the buffer, in pieces of a few
-// controls each: a piece that equals the same piece of the snapshot before
+// Whole-form snapshots are kept beside the buffer, in compressed pieces of
+// a few controls each: a piece that the snapshot before holds as well
 // shares its bytes, so a history of a growing mask does not store every
 // control again with each step. Their offsets count as if they were
 // appended to the stream.
@@ -71,7 +72,9 @@ private:
     // By snapshot index; empty for component snapshots and for index 0.
     QList<FormSnapshot> m_forms;
     qint64 m_formEnd = 0;
-    int m_lastForm = -1; // the snapshot saved last, whose pieces the next one may share
+    // The pieces of the snapshot saved last, by their plain bytes: the
+    // next snapshot shares those it holds unchanged.
+    QHash<QByteArray, QByteArray> m_lastPieces;
 };
 
 // Records the designer's design in the program's history (TUndoStream::instance()).
