@@ -8,6 +8,7 @@
 #include "MainForm.h"
 #include "Maske.h"
 #include "ObjectInspector.h"
+#include "UndoRedo.h"
 
 #include <QAction>
 #include <QApplication>
@@ -95,7 +96,7 @@ int main(int argc, char **argv)
         }
     }
 
-    const int before = Components::componentCount(mask);
+    const int before = Components::componentCount(mask->document());
     const int width = std::max(1, surface->width() - 40);
     const int height = std::max(1, surface->height() - 40);
     std::printf("design surface: %d x %d\n", surface->width(), surface->height());
@@ -127,9 +128,11 @@ int main(int argc, char **argv)
     std::printf("first 100: mean %.3f ms per placement\n", meanMs(0, 100));
     std::printf("last 100:  mean %.3f ms per placement\n", meanMs(kPlacements - 100, kPlacements));
 
-    const int after = Components::componentCount(mask);
+    const int after = Components::componentCount(mask->document());
     std::printf("components on the mask: %d (before placing: %d, placed: %d)\n", after, before,
                 after - before);
+
+    std::printf("undo history: %.1f MiB\n", double(TUndoStream::instance().storedBytes()) / (1024.0 * 1024.0));
 
     TObjInsp *insp = form.ObjInsp();
     if (!insp) {

@@ -43,10 +43,30 @@ void updateOutline(QWidget *w, const QRect &r)
 }
 } // namespace
 
+TDesignStill::TDesignStill(QWidget *designControl)
+    : QWidget(designControl)
+{
+    setObjectName(QStringLiteral("_designStill"));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_NoSystemBackground);
+    setFocusPolicy(Qt::NoFocus);
+    hide();
+}
+
+void TDesignStill::paintEvent(QPaintEvent *event)
+{
+    QPainter p(this);
+    const qreal ratio = m_picture.devicePixelRatio();
+    for (const QRect &r : event->region())
+        p.drawPixmap(QRectF(r), m_picture, QRectF(QPointF(r.topLeft()) * ratio, QSizeF(r.size()) * ratio));
+}
+
 TDesignOverlay::TDesignOverlay(const TCustomFormDesigner &designer, const TDragSession &session,
                                QWidget *designControl)
     : QWidget(designControl), m_designer(designer), m_session(session)
 {
+    m_stillWidget = new TDesignStill(designControl);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_NoSystemBackground);
     setFocusPolicy(Qt::NoFocus);
@@ -55,6 +75,24 @@ TDesignOverlay::TDesignOverlay(const TCustomFormDesigner &designer, const TDragS
     connect(&session, &TDragSession::changed, this, &TDesignOverlay::refresh);
     raise();
     show();
+}
+
+TDesignOverlay::~TDesignOverlay()
+{
+    delete m_stillWidget.data();
+}
+
+bool TDesignOverlay::onTopBut(const QWidget *newcomer) const
+{
+    const QWidget *parent = parentWidget();
+    const QObjectList &siblings = parent ? parent->children() : QObjectList();
+    for (auto it = siblings.crbegin(); it != siblings.crend(); ++it) {
+        if (*it == this)
+            return true;
+        if (*it != newcomer && (*it)->isWidgetType() && !static_cast<QWidget *>(*it)->isWindow())
+            return false;
+    }
+    return false;
 }
 
 void TDesignOverlay::keepOnTop()
@@ -76,13 +114,27 @@ bool TDesignOverlay::eventFilter(QObject *watched, QEvent *event)
     if (watched == parentWidget()) {
         switch (event->type()) {
         case QEvent::Resize:
+            dropStill();
             setGeometry(parentWidget()->rect());
             break;
-        case QEvent::ChildAdded:
-            // New controls go on top; the overlay stays above them.
-            if (static_cast<QChildEvent *>(event)->child() != this)
+        case QEvent::Move:
+            // Scrolled: the picture no longer shows what lies below.
+            dropStill();
+            break;
+        case QEvent::ChildAdded: {
+            // New controls go on top; the overlay stays above them. Putting
+            // the newcomer under the overlay gives the same order without
+            // repainting the whole glass, as raising it would.
+            QObject *child = static_cast<QChildEvent *>(event)->child();
+            if (child == this)
+                break;
+            auto *w = child->isWidgetType() ? static_cast<QWidget *>(child) : nullptr;
+            if (w && !w->isWindow() && onTopBut(w))
+                w->stackUnder(this);
+            else
                 keepOnTop();
             break;
+        }
         default:
             break;
         }
@@ -102,6 +154,13 @@ void TDesignOverlay::refresh()
             erase(item);
         shown = now;
     };
+    // Frames show only while nothing below moves (see dragFrames).
+    const QList<QRect> frames = dragFrames();
+    const bool framesOnly = !frames.isEmpty();
+    if (framesOnly && m_still.isNull())
+        takeStill();
+    else if (!framesOnly && !m_still.isNull())
+        dropStill();
     renew(m_marks, multiSelectionMarks(), [this](const Mark &m) { update(m.rect); });
     const auto eraseFrame = [this](const QRect &r) { updateOutline(this, r); };
     const bool band = m_session.action() == maSelecting;
@@ -110,12 +169,54 @@ void TDesignOverlay::refresh()
         renew(m_frames, QList<QRect>(), eraseFrame);
         m_band = band;
     }
-    renew(m_frames, dragFrames(), eraseFrame);
+    renew(m_frames, frames, eraseFrame);
     renew(m_lines, alignmentLines(), [this](const Line &l) { update(l.rect); });
+}
+
+QRect TDesignOverlay::shownRect() const
+{
+    // What the windows around the overlay leave visible of it.
+    QRect shown = rect();
+    QPoint offset;
+    for (const QWidget *w = this; w && !w->isWindow(); w = w->parentWidget()) {
+        offset += w->pos();
+        if (const QWidget *parent = w->parentWidget())
+            shown &= parent->rect().translated(-offset);
+    }
+    return shown;
+}
+
+void TDesignOverlay::takeStill()
+{
+    QWidget *below = parentWidget();
+    const QRect shown = shownRect();
+    if (!below || !m_stillWidget || shown.isEmpty() || !isVisible())
+        return;
+    m_grabbing = true;
+    m_still = below->grab(shown.translated(pos()));
+    m_grabbing = false;
+    m_stillWidget->setPicture(m_still);
+    m_stillWidget->setGeometry(shown.translated(pos()));
+    m_stillWidget->stackUnder(this);
+    m_stillWidget->show();
+}
+
+void TDesignOverlay::dropStill()
+{
+    if (m_still.isNull())
+        return;
+    m_still = QPixmap();
+    // What changed below while the picture covered it shows again.
+    if (m_stillWidget) {
+        m_stillWidget->hide();
+        m_stillWidget->setPicture(QPixmap());
+    }
 }
 
 void TDesignOverlay::paintEvent(QPaintEvent *event)
 {
+    if (m_grabbing)
+        return;
     QPainter p(this);
     const QRect dirty = event->rect();
     for (const Mark &m : std::as_const(m_marks)) {

@@ -72,11 +72,31 @@ private:
 // repainting. What it shows is worked out in refresh(), and only the
 // rectangles that change are repainted, so that a drag step or a click does
 // not repaint every control under the glass.
+// While frames are dragged nothing below them changes: this picture of the
+// design control, taken when the drag starts, lies under the overlay so that
+// the frames' old places repaint from it instead of from every control below.
+class TDesignStill : public QWidget
+{
+public:
+    explicit TDesignStill(QWidget *designControl);
+    void setPicture(const QPixmap &picture) { m_picture = picture; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QPixmap m_picture;
+};
+
 class TDesignOverlay : public QWidget
 {
     Q_OBJECT
 public:
     TDesignOverlay(const TCustomFormDesigner &designer, const TDragSession &session, QWidget *designControl);
+    ~TDesignOverlay() override;
+    // The picture under the overlay while frames are dragged; the engine
+    // keeps it out of the controls it designs.
+    QWidget *stillWidget() const { return m_stillWidget; }
 
     // Takes the engine's and the session's state anew.
     void refresh();
@@ -109,6 +129,11 @@ private:
 
     QList<Mark> multiSelectionMarks() const;
     QList<QRect> dragFrames() const;
+    void takeStill();
+    void dropStill();
+    QRect shownRect() const;
+    // Whether the overlay lies above every other control but newcomer.
+    bool onTopBut(const QWidget *newcomer) const;
     QList<Line> alignmentLines() const;
 
     const TCustomFormDesigner &m_designer;
@@ -117,4 +142,7 @@ private:
     QList<QRect> m_frames; // solid frames, or the dotted rubber band
     bool m_band = false;
     QList<Line> m_lines;
+    QPixmap m_still;
+    QPointer<TDesignStill> m_stillWidget;
+    bool m_grabbing = false;
 };

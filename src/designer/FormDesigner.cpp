@@ -166,6 +166,7 @@ void TCustomFormDesigner::attach()
     applyDesignBackground();
     m_overlay = new TDesignOverlay(*this, m_session, dc);
     m_input.exclude(m_overlay);
+    m_input.exclude(m_overlay->stillWidget());
     // The design control may go first and take the overlay with it.
     connect(m_overlay, &QObject::destroyed, this, [this](QObject *gone) {
         if (m_overlay == gone)

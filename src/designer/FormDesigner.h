@@ -216,8 +216,9 @@ public:
     void Update();
     // Re-places the handles of the current control and repaints the marks.
     void UpdateGrabs();
-    // The grid bitmap as last built (empty when the step is wider than the screen).
-    QPixmap gridBitmap() const { return m_gridBitmap; }
+    // The grid bitmap for the current settings (empty when the step is wider
+    // than the screen). Built when first asked for after a change.
+    QPixmap gridBitmap() const;
     // The pre-drawn handle of each look, as handles and multi-selection marks show it.
     QPixmap grabBitmap(TGrabType type) const { return m_grabBitmap[type]; }
     // What a mark of that look shows: the type's glyph (its transparent
@@ -274,6 +275,8 @@ public:
     void CutToClipboard();
     void PasteFromClipboard();
     void SaveToStream(QIODevice &stream);
+    // What SaveToStream writes, one binary stream per control of the layout.
+    QList<QByteArray> layoutStreams() const;
     void LoadFromStream(QIODevice &stream);
     void SaveComponentToStream(QIODevice &stream, QWidget *component, TDFMFormat format);
     void LoadComponentFromStream(QIODevice &stream, QWidget *component, TDFMFormat format);
@@ -405,7 +408,22 @@ private:
     QList<QPointer<TComponentContainer>> m_containers;
     QPixmap m_grabBitmap[3];
     QPixmap m_grabLook[3];
-    QPixmap m_gridBitmap;
+    // Activation sets the grid's settings one by one; the bitmap is built
+    // once, when painted, and only when what it shows differs.
+    struct TGridKey {
+        QRgb fill = 0;
+        QRgb dot = 0;
+        int step = 0;
+        QSize screen;
+        bool operator==(const TGridKey &o) const
+        {
+            return fill == o.fill && dot == o.dot && step == o.step && screen == o.screen;
+        }
+    };
+    mutable QPixmap m_gridBitmap;
+    mutable TGridKey m_gridKey;
+    mutable bool m_gridBuilt = false;
+    mutable bool m_gridStale = true;
     Qt::FocusPolicy m_savedFocusPolicy = Qt::NoFocus;
     QPointer<QWidget> m_palette; // the TfrmAlignmentPalette, once made
     int m_lockCount = 0;

@@ -372,8 +372,16 @@ void TCustomFormDesigner::readLayout(const QByteArray &bytes, const QString &wha
 
 void TCustomFormDesigner::SaveToStream(QIODevice &stream)
 {
+    for (const QByteArray &bytes : layoutStreams())
+        stream.write(bytes);
+}
+
+QList<QByteArray> TCustomFormDesigner::layoutStreams() const
+{
+    QList<QByteArray> out;
     for (QWidget *w : layoutControls())
-        writeComponent(stream, w, TStreamFormat::Binary);
+        out << componentToBytes(w, TStreamFormat::Binary);
+    return out;
 }
 
 void TCustomFormDesigner::LoadFromStream(QIODevice &stream)

@@ -65,29 +65,43 @@ private:
 
 void TCustomFormDesigner::updateGridBitmap()
 {
+    m_gridStale = true;
+}
+
+QPixmap TCustomFormDesigner::gridBitmap() const
+{
+    if (!m_gridStale)
+        return m_gridBitmap;
+    m_gridStale = false;
     const QWidget *dc = m_attached ? m_attached.data() : designControlOrForm();
-    const QColor fill = fillColor(m_designerColor, dc);
-    const QColor dot = dotColor(m_gridColor, dc);
     const QScreen *screen = QGuiApplication::primaryScreen();
-    const QSize screenSize = screen ? screen->geometry().size() : QSize();
-    const int step = std::max(1, m_gridStep);
-    const int width = screenSize.width() / step * step;
-    const int height = screenSize.height() / step * step;
+    TGridKey key;
+    key.fill = fillColor(m_designerColor, dc).rgb();
+    key.dot = dotColor(m_gridColor, dc).rgb();
+    key.step = std::max(1, m_gridStep);
+    key.screen = screen ? screen->geometry().size() : QSize();
+    if (m_gridBuilt && key == m_gridKey)
+        return m_gridBitmap;
+    m_gridKey = key;
+    m_gridBuilt = true;
+    const int step = key.step;
+    const int width = key.screen.width() / step * step;
+    const int height = key.screen.height() / step * step;
     if (width <= 0 || height <= 0) {
         // A step wider than the screen: no bitmap and no dots.
         m_gridBitmap = QPixmap();
-        return;
+        return m_gridBitmap;
     }
     // Whole steps in both directions, so the tiles join without a seam.
     QImage image(width, height, QImage::Format_RGB32);
-    image.fill(fill);
-    const QRgb dotRgb = dot.rgb();
+    image.fill(key.fill);
     for (int y = 0; y < height; y += step) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
         for (int x = 0; x < width; x += step)
-            line[x] = dotRgb;
+            line[x] = key.dot;
     }
     m_gridBitmap = QPixmap::fromImage(image);
+    return m_gridBitmap;
 }
 
 void TCustomFormDesigner::applyDesignBackground()

@@ -10,12 +10,12 @@
 #include <QFrame>
 #include <QLabel>
 #include <QScrollArea>
+#include <QSet>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 namespace {
@@ -161,31 +161,91 @@ void TObjInsp::UpdateComponents()
 {
     // Rebuilding must not count as the user choosing an entry.
     const QSignalBlocker blocker(m_tree);
-    m_tree->clear();
+    QList<TreeEntry> tops, pages;
     if (m_mask) {
-        QHash<QObject *, QTreeWidgetItem *> items;
-        QList<QObject *> pages;
         for (QObject *c : Components::components(m_mask->document())) {
             if (!c->isWidgetType() || isHiddenComponent(c))
                 continue;
-            if (qobject_cast<TAdvOfficePage *>(c)) {
-                pages << c; // below their page control, once every pager has its entry
-                continue;
-            }
-            auto *item = new QTreeWidgetItem(m_tree, {entryText(c)});
-            item->setData(0, Qt::UserRole, QVariant::fromValue(c));
-            items.insert(c, item);
+            // Pages go below their page control, once every pager has its entry.
+            if (auto *page = qobject_cast<TAdvOfficePage *>(c))
+                pages.append({c, entryText(c), page->AdvOfficePager()});
+            else
+                tops.append({c, entryText(c), nullptr});
         }
-        for (QObject *c : pages) {
-            QTreeWidgetItem *pagerItem = items.value(static_cast<TAdvOfficePage *>(c)->AdvOfficePager());
-            auto *item = pagerItem ? new QTreeWidgetItem(pagerItem, {entryText(c)})
-                                   : new QTreeWidgetItem(m_tree, {entryText(c)});
-            item->setData(0, Qt::UserRole, QVariant::fromValue(c));
-        }
-        m_tree->expandAll();
     }
+    if (!extendTree(tops, pages))
+        rebuildTree(tops, pages);
     syncTreeToControl();
     syncPalette();
+}
+
+// Appends what is new when the list so far is unchanged at its start; any
+// other change (a control gone, renamed, a page without its page control)
+// takes a full rebuild.
+bool TObjInsp::extendTree(const QList<TreeEntry> &tops, const QList<TreeEntry> &pages)
+{
+    const auto sameStart = [](const QList<TreeEntry> &listed, const QList<TreeEntry> &wanted) {
+        if (listed.size() > wanted.size())
+            return false;
+        for (qsizetype i = 0; i < listed.size(); ++i) {
+            const TreeEntry &a = listed.at(i);
+            const TreeEntry &b = wanted.at(i);
+            if (a.object != b.object || a.pager != b.pager || a.text != b.text)
+                return false;
+        }
+        return true;
+    };
+    if (!m_mask || m_listedMask != m_mask || !sameStart(m_listedTops, tops) || !sameStart(m_listedPages, pages))
+        return false;
+    // A new page whose page control has no entry would be listed at the top
+    // level, behind the controls; the rebuild keeps that order.
+    QSet<QObject *> newTops;
+    for (qsizetype i = m_listedTops.size(); i < tops.size(); ++i)
+        newTops.insert(tops.at(i).object);
+    for (qsizetype i = m_listedPages.size(); i < pages.size(); ++i)
+        if (!m_treeItems.contains(pages.at(i).pager) && !newTops.contains(pages.at(i).pager))
+            return false;
+
+    for (qsizetype i = m_listedTops.size(); i < tops.size(); ++i) {
+        auto *item = new QTreeWidgetItem(m_tree, {tops.at(i).text});
+        item->setData(0, Qt::UserRole, QVariant::fromValue(tops.at(i).object));
+        m_treeItems.insert(tops.at(i).object, item);
+        m_listedTops.append(tops.at(i));
+    }
+    for (qsizetype i = m_listedPages.size(); i < pages.size(); ++i) {
+        QTreeWidgetItem *pagerItem = m_treeItems.value(pages.at(i).pager);
+        auto *item = new QTreeWidgetItem(pagerItem, {pages.at(i).text});
+        item->setData(0, Qt::UserRole, QVariant::fromValue(pages.at(i).object));
+        m_treeItems.insert(pages.at(i).object, item);
+        m_listedPages.append(pages.at(i));
+    }
+    // Every page control stays open, as after a rebuild.
+    for (const TreeEntry &page : std::as_const(m_listedPages))
+        if (QTreeWidgetItem *pagerItem = m_treeItems.value(page.pager); pagerItem && !pagerItem->isExpanded())
+            pagerItem->setExpanded(true);
+    return true;
+}
+
+void TObjInsp::rebuildTree(const QList<TreeEntry> &tops, const QList<TreeEntry> &pages)
+{
+    m_tree->clear();
+    m_treeItems.clear();
+    m_listedMask = m_mask;
+    m_listedTops = tops;
+    m_listedPages = pages;
+    for (const TreeEntry &e : tops) {
+        auto *item = new QTreeWidgetItem(m_tree, {e.text});
+        item->setData(0, Qt::UserRole, QVariant::fromValue(e.object));
+        m_treeItems.insert(e.object, item);
+    }
+    for (const TreeEntry &e : pages) {
+        QTreeWidgetItem *pagerItem = m_treeItems.value(e.pager);
+        auto *item = pagerItem ? new QTreeWidgetItem(pagerItem, {e.text}) : new QTreeWidgetItem(m_tree, {e.text});
+        item->setData(0, Qt::UserRole, QVariant::fromValue(e.object));
+        m_treeItems.insert(e.object, item);
+    }
+    if (m_mask)
+        m_tree->expandAll();
 }
 
 void TObjInsp::showTreePopup()
@@ -224,12 +284,9 @@ void TObjInsp::syncTreeToControl()
     const QSignalBlocker blocker(m_tree);
     m_tree->setCurrentItem(nullptr);
     if (m_current) {
-        for (QTreeWidgetItemIterator it(m_tree); *it; ++it) {
-            if ((*it)->data(0, Qt::UserRole).value<QObject *>() == m_current.data()) {
-                m_tree->setCurrentItem(*it);
-                text = (*it)->text(0);
-                break;
-            }
+        if (QTreeWidgetItem *item = m_treeItems.value(m_current.data())) {
+            m_tree->setCurrentItem(item);
+            text = item->text(0);
         }
     }
     m_treeButton->setText(text);

@@ -67,6 +67,15 @@ private:
     void showTreePopup();
     void selectPage();
     void syncTreeToControl();
+    // The component list's entries: a control and the text it is listed under.
+    struct TreeEntry
+    {
+        QObject *object = nullptr;
+        QString text;
+        QObject *pager = nullptr; // a page's page control
+    };
+    void rebuildTree(const QList<TreeEntry> &tops, const QList<TreeEntry> &pages);
+    bool extendTree(const QList<TreeEntry> &tops, const QList<TreeEntry> &pages);
     void markModified();
     QFormLayout *newPage(const QString &caption);
     static QString classNameOf(const QWidget *w);
@@ -139,6 +148,12 @@ private:
     QToolButton *m_treeButton = nullptr;
     QFrame *m_treePopup = nullptr;
     QTreeWidget *m_tree = nullptr;
+    // What the list shows, in the order it was built: placing a control
+    // appends one entry instead of rebuilding a list of a thousand.
+    QPointer<TMaske> m_listedMask;
+    QList<TreeEntry> m_listedTops;
+    QList<TreeEntry> m_listedPages;
+    QHash<QObject *, QTreeWidgetItem *> m_treeItems;
     QLabel *m_header = nullptr;
     QWidget *m_palette = nullptr;
     QButtonGroup *m_paletteGroup = nullptr;

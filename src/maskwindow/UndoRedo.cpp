@@ -1,5 +1,7 @@
 #include "UndoRedo.h"
 
+#include <QHash>
+#include <QSet>
 #include <QtEndian>
 
 #include "Components.h"
@@ -43,10 +45,84 @@ QByteArray TUndoStream::snapshot(int index) const
 
 // ---- whole-form snapshots ----
 
+namespace {
+// A piece ends behind a control whose bytes hash to a multiple of this, so
+// pieces end at the same controls whatever was inserted before them: a
+// control placed in the middle changes its own piece only.
+constexpr uint kPieceEnd = 16;
+// Nor does a piece grow past this many controls.
+constexpr int kMaxControlsPerPiece = 64;
+} // namespace
+
 void TUndoStream::SaveUndo(TCustomFormDesigner *designer)
 {
-    appendSnapshotStart();
-    designer->SaveToStream(*this);
+    FormSnapshot snapshot;
+    QHash<QByteArray, QByteArray> pieces;
+    QByteArray piece;
+    int inPiece = 0;
+    const auto close = [&] {
+        snapshot.size += piece.size();
+        QByteArray stored = m_lastPieces.value(piece);
+        if (stored.isNull()) {
+            // The stream's property names repeat from control to control.
+            stored = qCompress(piece, 1);
+            stored.squeeze();
+        }
+        snapshot.pieces.append(stored);
+        pieces.insert(piece, stored);
+        piece = QByteArray();
+        inPiece = 0;
+    };
+    for (const QByteArray &control : designer->layoutStreams()) {
+        piece += control;
+        if (qHash(control) % kPieceEnd == 0 || ++inPiece == kMaxControlsPerPiece)
+            close();
+    }
+    if (!piece.isEmpty())
+        close();
+
+    m_positions.append(m_formEnd);
+    m_current = int(m_positions.size()) - 1;
+    m_formEnd += snapshot.size;
+    m_forms.resize(m_positions.size());
+    m_forms.last() = std::move(snapshot);
+    m_lastPieces = std::move(pieces);
+}
+
+// The bytes from the snapshot's offset up to the next later offset: a
+// snapshot without controls shares its offset with the one saved after it,
+// which then ends it.
+QByteArray TUndoStream::formSnapshot(int index) const
+{
+    const qint64 start = m_positions.at(index);
+    while (index + 1 < m_positions.size() && m_positions.at(index + 1) == start)
+        ++index;
+    QByteArray bytes;
+    if (index >= m_forms.size())
+        return bytes;
+    const FormSnapshot &snapshot = m_forms.at(index);
+    bytes.reserve(snapshot.size);
+    for (const QByteArray &piece : snapshot.pieces)
+        bytes += qUncompress(piece);
+    return bytes;
+}
+
+qint64 TUndoStream::storedBytes() const
+{
+    qint64 total = size() + m_positions.size() * qint64(sizeof(qint64))
+                   + m_forms.size() * qint64(sizeof(FormSnapshot));
+    for (auto it = m_lastPieces.cbegin(); it != m_lastPieces.cend(); ++it)
+        total += it.key().capacity() + qint64(sizeof(QByteArray)) * 2;
+    QSet<const char *> counted;
+    for (const FormSnapshot &snapshot : m_forms) {
+        total += snapshot.pieces.size() * qint64(sizeof(QByteArray));
+        for (const QByteArray &piece : snapshot.pieces)
+            if (!counted.contains(piece.constData())) {
+                counted.insert(piece.constData());
+                total += piece.capacity();
+            }
+    }
+    return total;
 }
 
 // The engine reads to the end of whatever it is handed; given the whole
@@ -54,20 +130,18 @@ void TUndoStream::SaveUndo(TCustomFormDesigner *designer)
 // it gets the one snapshot alone.
 void TUndoStream::loadForm(TCustomFormDesigner *designer, int index)
 {
-    seek(m_positions.at(index));
     // A history nothing was saved to holds no design: loading its empty
     // stream would clear the mask instead of restoring anything.
     if (neverSaved())
         return;
     QBuffer one;
-    one.setData(snapshot(index));
+    one.setData(formSnapshot(index));
     one.open(QIODevice::ReadOnly);
     try {
         designer->LoadFromStream(one);
     } catch (const EFormDesigner &) {
         // An unreadable snapshot counts as loaded; the steps go on as usual.
     }
-    seek(m_positions.at(index) + one.pos());
 }
 
 bool TUndoStream::stepBack(const std::function<void(int)> &load)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QBuffer>
+#include <QHash>
 #include <QList>
 #include <functional>
 
@@ -19,6 +20,12 @@ class TCustomFormDesigner;
 // Whole-form snapshots (SaveUndo/Undo/Redo) and component-by-component ones
 // (SaveUndoComponents/UndoComponents/RedoComponents) are laid out differently
 // and must not be mixed in one history.
+//
+// Whole-form snapshots are kept beside the buffer, in compressed pieces of
+// a few controls each: a piece that the snapshot before holds as well
+// shares its bytes, so a history of a growing mask does not store every
+// control again with each step. Their offsets count as if they were
+// appended to the stream.
 class TUndoStream : public QBuffer
 {
     Q_OBJECT
@@ -30,6 +37,8 @@ public:
 
     int current() const { return m_current; }
     const QList<qint64> &positions() const { return m_positions; }
+    // The memory the snapshots take, bytes shared between snapshots counted once.
+    qint64 storedBytes() const;
 
     void SaveUndo(TCustomFormDesigner *designer);
     bool Undo(TCustomFormDesigner *designer);
@@ -50,9 +59,22 @@ private:
     bool stepBack(const std::function<void(int)> &load);
     bool stepForward(const std::function<void(int)> &load);
     void loadComponents(TCustomFormDesigner *designer, int index, int extra);
+    QByteArray formSnapshot(int index) const;
+
+    struct FormSnapshot
+    {
+        QList<QByteArray> pieces;
+        qint64 size = 0;
+    };
 
     int m_current = 0;
     QList<qint64> m_positions{0};
+    // By snapshot index; empty for component snapshots and for index 0.
+    QList<FormSnapshot> m_forms;
+    qint64 m_formEnd = 0;
+    // The pieces of the snapshot saved last, by their plain bytes: the
+    // next snapshot shares those it holds unchanged.
+    QHash<QByteArray, QByteArray> m_lastPieces;
 };
 
 // Records the designer's design in the program's history (TUndoStream::instance()).

@@ -2,6 +2,7 @@
 // shows for a selection, and what typing into the text and button pages does
 // to the control; the rule and check box dialogs.
 #include <QtTest>
+#include <QTreeWidgetItemIterator>
 
 #include "CheckDialog.h"
 #include "Components.h"
@@ -91,6 +92,32 @@ void TestObjInsp::componentListAndChoosingAnEntry()
 
     // Rebuilding keeps nothing of the old list; without a mask it is empty.
     f.insp.UpdateComponents();
+    QCOMPARE(tree->topLevelItemCount(), 4);
+
+    // Later changes show as a freshly built list shows them: a new control
+    // and a new page, then a control gone and one renamed.
+    const auto outline = [](QTreeWidget *t) {
+        QStringList out;
+        for (QTreeWidgetItemIterator it(t); *it; ++it)
+            out << ((*it)->parent() ? QStringLiteral("  ") : QString()) + (*it)->text(0)
+                       + ((*it)->childCount() && (*it)->isExpanded() ? QStringLiteral(" +") : QString());
+        return out;
+    };
+    const auto fresh = [&] {
+        TObjInsp other;
+        other.setActiveMask(f.mask);
+        return outline(other.dxBarTreeView());
+    };
+    auto *added = f.add<TcxTextEdit>(nullptr, QRect(10, 100, 120, 24));
+    pager->addPage(f.mask->document()->NewOPage(QStringLiteral("Bank")));
+    f.insp.UpdateComponents();
+    QCOMPARE(outline(tree), fresh());
+    QCOMPARE(tree->topLevelItemCount(), 5);
+    QCOMPARE(tree->topLevelItem(4)->text(0), added->objectName());
+    delete edit;
+    same->setName(QStringLiteral("Anders"));
+    f.insp.UpdateComponents();
+    QCOMPARE(outline(tree), fresh());
     QCOMPARE(tree->topLevelItemCount(), 4);
     f.insp.setActiveMask(nullptr);
     QCOMPARE(tree->topLevelItemCount(), 0);

@@ -16,6 +16,7 @@ private slots:
     void undoWalksBackAndRedoStopsAtTheEnd();
     void saveAfterUndoKeepsTheUndoneSnapshots();
     void undoBringsBackDeletedControlsWithoutDuplicates();
+    void snapshotsOfALargeFormRestoreExactly();
     void programHistoryRecordsThroughSaveUndo();
     void componentSnapshotStartsWithTheOwnedCount();
     void componentUndoAndRedoRestoreNestedControls();
@@ -171,6 +172,37 @@ void TestUndo::undoBringsBackDeletedControlsWithoutDuplicates()
     QCOMPARE(innerBack->parentWidget(), control(f, panelName));
     QCOMPARE(innerBack->geometry(), QRect(5, 5, 60, 20));
     QVERIFY(innerBack->isVisibleTo(&f.form));
+}
+
+void TestUndo::snapshotsOfALargeFormRestoreExactly()
+{
+    DesignForm f;
+    QStringList names;
+    for (int i = 0; i < 40; ++i)
+        names << f.add<TMaskBtn>(nullptr, {10 + i * 3, 10, 20, 20})->objectName();
+    f.designer->setActive(true);
+    TUndoStream history;
+    const auto layout = [&] {
+        QBuffer b;
+        b.open(QIODevice::WriteOnly);
+        f.designer->SaveToStream(b);
+        return b.data();
+    };
+    QList<QByteArray> saved;
+    history.SaveUndo(f.designer);
+    saved << layout();
+    control(f, names.at(20))->move(300, 300);
+    history.SaveUndo(f.designer);
+    saved << layout();
+    f.add<TMaskBtn>(nullptr, {5, 200, 20, 20});
+    history.SaveUndo(f.designer);
+    saved << layout();
+    // What did not change between snapshots is kept once.
+    QVERIFY(history.storedBytes() < saved.at(0).size() + saved.at(1).size() + saved.at(2).size());
+    for (int i = 2; i >= 0; --i) {
+        QVERIFY(history.Undo(f.designer));
+        QCOMPARE(layout(), saved.at(i));
+    }
 }
 
 void TestUndo::programHistoryRecordsThroughSaveUndo()
