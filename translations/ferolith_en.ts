@@ -213,6 +213,14 @@ S = Byte</translation>
         <source>Wert „%1“ ist %2.</source>
         <translation>Value “%1” is %2.</translation>
     </message>
+    <message>
+        <source>keine Zahl</source>
+        <translation>not a number</translation>
+    </message>
+    <message>
+        <source>kein Wahrheitswert</source>
+        <translation>not a truth value</translation>
+    </message>
 </context>
 <context>
     <name>Streaming</name>
@@ -362,6 +370,13 @@ S = Byte</translation>
     <message>
         <source>für Quorbex 18.x</source>
         <translation>for Quorbex 18.x</translation>
+    </message>
+</context>
+<context>
+    <name>TAdvOfficePager</name>
+    <message>
+        <source>(keine Seiten)</source>
+        <translation>(no pages)</translation>
     </message>
 </context>
 <context>
@@ -1541,6 +1556,26 @@ Shall the changes be saved?</translation>
     <message>
         <source> (nur Ansicht)</source>
         <translation> (view only)</translation>
+    </message>
+    <message>
+        <source>Objekt Inspektor</source>
+        <translation>Object inspector</translation>
+    </message>
+    <message>
+        <source>(kein Element)</source>
+        <translation>(no element)</translation>
+    </message>
+    <message>
+        <source>Element der Maske auswählen</source>
+        <translation>Choose an element of the mask</translation>
+    </message>
+    <message>
+        <source>Kein oder mehrere Elemente ausgewählt.</source>
+        <translation>No element or several elements selected.</translation>
+    </message>
+    <message>
+        <source>%1 Elemente</source>
+        <translation>%1 elements</translation>
     </message>
 </context>
 <context>

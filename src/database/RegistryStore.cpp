@@ -63,7 +63,7 @@ std::optional<qint32> RegistryStore::readInteger(const QString &name, QString *e
     bool ok = false;
     const qint32 value = m_settings->value(name).toInt(&ok);
     if (!ok) {
-        report(errorMessage, malformed(name, QStringLiteral("keine Zahl")));
+        report(errorMessage, malformed(name, QCoreApplication::translate("RegistryStore", "keine Zahl")));
         return std::nullopt;
     }
     return value;
@@ -88,7 +88,7 @@ std::optional<bool> RegistryStore::readBool(const QString &name, QString *errorM
     bool ok = false;
     const qint32 number = value.toInt(&ok);
     if (!ok) {
-        report(errorMessage, malformed(name, QStringLiteral("kein Wahrheitswert")));
+        report(errorMessage, malformed(name, QCoreApplication::translate("RegistryStore", "kein Wahrheitswert")));
         return std::nullopt;
     }
     return number != 0;

@@ -56,7 +56,7 @@ TObjInsp::TObjInsp(QWidget *parent)
     : QWidget(parent, Qt::Tool)
 {
     setObjectName(QStringLiteral("ObjInsp"));
-    setWindowTitle(QStringLiteral("Objekt Inspektor"));
+    setWindowTitle(tr("Objekt Inspektor"));
     resize(260, 560);
     setMinimumWidth(220);
 
@@ -72,8 +72,8 @@ TObjInsp::TObjInsp(QWidget *parent)
     m_treeButton = new QToolButton(bar);
     m_treeButton->setObjectName(QStringLiteral("dxBarTreeViewButton"));
     m_treeButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    m_treeButton->setText(QStringLiteral("(kein Element)"));
-    m_treeButton->setToolTip(QStringLiteral("Element der Maske auswählen"));
+    m_treeButton->setText(tr("(kein Element)"));
+    m_treeButton->setToolTip(tr("Element der Maske auswählen"));
     m_treeButton->setArrowType(Qt::NoArrow);
     m_treeButton->setPopupMode(QToolButton::DelayedPopup);
     m_treeButton->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -109,7 +109,7 @@ TObjInsp::TObjInsp(QWidget *parent)
 
     // Page 0 first; every class page after it in the fixed page order.
     QFormLayout *def = newPage(QStringLiteral("Default"));
-    auto *hint = new QLabel(QStringLiteral("Kein oder mehrere Elemente ausgewählt."));
+    auto *hint = new QLabel(tr("Kein oder mehrere Elemente ausgewählt."));
     hint->setObjectName(QStringLiteral("DefaultHint"));
     hint->setWordWrap(true);
     hint->setAlignment(Qt::AlignCenter);
@@ -280,7 +280,7 @@ void TObjInsp::selectControl(QWidget * /*control*/)
 
 void TObjInsp::syncTreeToControl()
 {
-    QString text = QStringLiteral("(kein Element)");
+    QString text = tr("(kein Element)");
     const QSignalBlocker blocker(m_tree);
     m_tree->setCurrentItem(nullptr);
     if (m_current) {
@@ -307,8 +307,8 @@ void TObjInsp::selectPage()
         page = m_pageIndex.value(classNameOf(m_current), 0);
     m_notebook->setCurrentIndex(page);
     m_header->setText(selection.size() == 1 ? m_current->objectName() + QStringLiteral(": ") + classNameOf(m_current)
-                      : selection.size() > 1 ? QStringLiteral("%1 Elemente").arg(selection.size())
-                                             : QString());
+                          : selection.size() > 1 ? tr("%1 Elemente").arg(selection.size())
+                                                 : QString());
     syncTreeToControl();
     syncPalette();
     if (page == 0)

@@ -1,3 +1,4 @@
+#include <QCoreApplication>
 #include <QEvent>
 #include <QPainter>
 
@@ -307,7 +308,7 @@ void TAdvOfficePager::paintEvent(QPaintEvent *)
     p.drawRect(r);
     if (m_pages.isEmpty() && isDesigning()) {
         p.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
-        p.drawText(r, Qt::AlignCenter, QStringLiteral("(keine Seiten)"));
+        p.drawText(r, Qt::AlignCenter, QCoreApplication::translate("TAdvOfficePager", "(keine Seiten)"));
     }
 }
 
