@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include "AppPaths.h"
+#include "Localiser.h"
 #include "TestSupport.h"
 #include "ControlKinds.h"
 #include "helper_shell.h"
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void paletteButtonsAreExclusive();
     void mainMenuBarHidesTheMenu();
     void exitAsksEveryChangedMaskFirst();
+    void windowsAndQuestionsSpeakTheChosenLanguage();
 
 private:
     QTemporaryDir m_dir;
@@ -315,6 +317,29 @@ void TestMainForm::exitAsksEveryChangedMaskFirst()
     QVERIFY(subWindows(form.get()).isEmpty());
     QCOMPARE(dialogs.messages.size(), 4);
     QCOMPARE(dialogs.unexpected, 0);
+}
+
+void TestMainForm::windowsAndQuestionsSpeakTheChosenLanguage()
+{
+    ScriptedDialogs dialogs;
+    const struct
+    {
+        const char *language, *fileMenu, *select, *question;
+    } languages[] = {{"en", "&File", "Select", "Mask \"%1\" was changed!"},
+                     {"de", "&Datei", "Auswahl", "Maske \"%1\" wurde verändert!"}};
+    for (const auto &l : languages) {
+        QVERIFY(Localiser::install(QLatin1String(l.language)));
+        auto form = showMainForm();
+        QCOMPARE(form->findChild<QMenu *>(QStringLiteral("FileMenu"))->title(), QLatin1String(l.fileMenu));
+        QCOMPARE(action(form.get(), "dxBarBtnDefault")->text(), QLatin1String(l.select));
+        clickTool(form.get(), "FileNewItem");
+        form->activeMask()->setModified(true);
+        dialogs.messageAnswers << mrAbort;
+        QVERIFY(!form->activeMask()->FormCloseQuery());
+        QVERIFY2(dialogs.messages.last().text.startsWith(QString::fromUtf8(l.question).arg(form->activeMask()->windowTitle())),
+                 qPrintable(dialogs.messages.last().text));
+        form->activeMask()->setModified(false);
+    }
 }
 
 QTEST_MAIN(TestMainForm)
