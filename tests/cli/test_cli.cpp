@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <tuple>
 #include <QtTest>
 
 #include "IniFile.h"
@@ -180,6 +181,16 @@ void TestCli::failuresSayWhatWentWrong()
     r = run({QStringLiteral("roundtrip"), path(QStringLiteral("kunden.dbm"))});
     QCOMPARE(r.exitCode, 2);
     QVERIFY2(oneLine(r), r.err.constData());
+
+    // Help and messages speak the language the settings choose.
+    const QString ini = path(QStringLiteral("ferolith.ini"));
+    for (const auto &[language, usage, missing] : {std::tuple{"en", "Usage:", "does not exist"},
+                                                   std::tuple{"de", "Aufruf:", "gibt es nicht"}}) {
+        QVERIFY(Profile::writeString(ini, QStringLiteral("Configuration"), QStringLiteral("Sprache"),
+                                     QLatin1String(language)));
+        QVERIFY(run({QStringLiteral("--help")}).out.startsWith(usage));
+        QVERIFY(run({QStringLiteral("dump"), path(QStringLiteral("fehlt.dbm"))}).err.contains(missing));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestCli)
