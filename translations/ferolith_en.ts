@@ -2124,6 +2124,49 @@ Shall the changes be saved?</translation>
     </message>
 </context>
 <context>
+    <name>UserDialogs</name>
+    <message>
+        <source>Warnung</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Bestätigen</source>
+        <translation>Confirm</translation>
+    </message>
+    <message>
+        <source>&amp;Ja</source>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message>
+        <source>&amp;Nein</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>&amp;Abort</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederholen</source>
+        <translation>&amp;Retry</translation>
+    </message>
+    <message>
+        <source>&amp;Ignorieren</source>
+        <translation>&amp;Ignore</translation>
+    </message>
+</context>
+<context>
     <name>ferolith</name>
     <message>
         <source>Aufruf: ferolith [--ini DATEI] [MASKE.dbm]

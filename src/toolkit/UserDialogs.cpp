@@ -83,8 +83,10 @@ TModalResult QtUserDialogs::messageDlg(QWidget *parent, const QString &text, TMs
     case mtConfirmation: box.setIcon(QMessageBox::Question); break;
     case mtCustom: box.setIcon(QMessageBox::NoIcon); break;
     }
-    static const char *const defaultCaptions[] = {"Warnung", "Fehler", "Information", "Bestätigen", ""};
-    box.setWindowTitle(caption.isEmpty() ? QString::fromUtf8(defaultCaptions[type]) : caption);
+    static const char *const defaultCaptions[]
+        = {QT_TRANSLATE_NOOP("UserDialogs", "Warnung"), QT_TRANSLATE_NOOP("UserDialogs", "Fehler"),
+           QT_TRANSLATE_NOOP("UserDialogs", "Information"), QT_TRANSLATE_NOOP("UserDialogs", "Bestätigen"), ""};
+    box.setWindowTitle(caption.isEmpty() ? QCoreApplication::translate("UserDialogs", defaultCaptions[type]) : caption);
     box.setText(text);
 
     struct Choice
@@ -95,18 +97,18 @@ TModalResult QtUserDialogs::messageDlg(QWidget *parent, const QString &text, TMs
         TModalResult result;
     };
     static const Choice choices[] = {
-        {mbYes, "&Ja", QMessageBox::YesRole, mrYes},
-        {mbNo, "&Nein", QMessageBox::NoRole, mrNo},
+        {mbYes, QT_TRANSLATE_NOOP("UserDialogs", "&Ja"), QMessageBox::YesRole, mrYes},
+        {mbNo, QT_TRANSLATE_NOOP("UserDialogs", "&Nein"), QMessageBox::NoRole, mrNo},
         {mbOK, "OK", QMessageBox::AcceptRole, mrOk},
-        {mbCancel, "Abbrechen", QMessageBox::RejectRole, mrCancel},
-        {mbAbort, "&Abbrechen", QMessageBox::RejectRole, mrAbort},
-        {mbRetry, "&Wiederholen", QMessageBox::ActionRole, mrRetry},
-        {mbIgnore, "&Ignorieren", QMessageBox::ActionRole, mrIgnore},
+        {mbCancel, QT_TRANSLATE_NOOP("UserDialogs", "Abbrechen"), QMessageBox::RejectRole, mrCancel},
+        {mbAbort, QT_TRANSLATE_NOOP("UserDialogs", "&Abbrechen"), QMessageBox::RejectRole, mrAbort},
+        {mbRetry, QT_TRANSLATE_NOOP("UserDialogs", "&Wiederholen"), QMessageBox::ActionRole, mrRetry},
+        {mbIgnore, QT_TRANSLATE_NOOP("UserDialogs", "&Ignorieren"), QMessageBox::ActionRole, mrIgnore},
     };
     QHash<QAbstractButton *, TModalResult> results;
     for (const Choice &c : choices) {
         if (buttons & c.flag)
-            results.insert(box.addButton(QString::fromUtf8(c.text), c.role), c.result);
+            results.insert(box.addButton(QCoreApplication::translate("UserDialogs", c.text), c.role), c.result);
     }
     if (results.isEmpty())
         results.insert(box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole), mrOk);
