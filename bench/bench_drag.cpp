@@ -15,6 +15,9 @@
 #include "Components.h"
 #include "FormDesigner.h"
 #include "MyBtn.h"
+#include "bench_input.h"
+
+using namespace BenchInput;
 
 namespace {
 
@@ -22,44 +25,6 @@ constexpr int kControls = 1000;
 constexpr int kSelected = 50;
 constexpr int kSteps = 400;
 constexpr int kClicks = 200;
-
-// Counts the widgets painted, to show how much a step repaints.
-class TPaintCounter : public QObject
-{
-public:
-    int paints = 0;
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++paints;
-        return false;
-    }
-};
-
-void send(QWidget *w, QEvent::Type type, const QPoint &global, Qt::MouseButton button, Qt::MouseButtons buttons)
-{
-    QMouseEvent event(type, w->mapFromGlobal(global), global, button, buttons, Qt::NoModifier);
-    QApplication::sendEvent(w, &event);
-}
-
-// Paints what the last input made dirty, as the next frame would.
-void repaint(QWidget *window)
-{
-    QCoreApplication::sendPostedEvents();
-    QEvent request(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(window, &request);
-}
-
-void report(const char *what, std::vector<qint64> &ns)
-{
-    std::sort(ns.begin(), ns.end());
-    double sum = 0;
-    for (qint64 t : ns)
-        sum += double(t);
-    std::printf("%s (%zu runs): mean %.3f ms, median %.3f ms, 90%% %.3f ms\n", what, ns.size(),
-                sum / double(ns.size()) / 1e6, double(ns[ns.size() / 2]) / 1e6,
-                double(ns[ns.size() * 9 / 10]) / 1e6);
-}
 
 } // namespace
 
@@ -100,11 +65,11 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "the form does not show\n");
         return 1;
     }
-    repaint(&form);
+    repaint();
 
     for (int i = 0; i < kSelected; ++i)
         designer.AddControl(controls.at(i * 7));
-    repaint(&form);
+    repaint();
     std::printf("controls: %d, selected: %d\n", kControls, designer.ControlCount());
 
     // Dragging: press on the first selected control, then steps of a pixel
@@ -113,31 +78,31 @@ int main(int argc, char **argv)
     const QPoint start = grabbed->mapToGlobal(QPoint(10, 10));
     send(grabbed, QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
     send(grabbed, QEvent::MouseMove, start + QPoint(20, 20), Qt::NoButton, Qt::LeftButton);
-    repaint(&form);
-    std::vector<qint64> steps;
+    repaint();
+    Timings steps;
     counter.paints = 0;
     for (int i = 0; i < kSteps; ++i) {
         const QPoint at = start + QPoint(20 + i % 40, 20 + (i / 2) % 30);
         QElapsedTimer t;
         t.start();
         send(grabbed, QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton);
-        repaint(&form);
-        steps.push_back(t.nsecsElapsed());
+        repaint();
+        steps.ns.push_back(t.nsecsElapsed());
     }
     // Esc-like end without moving anything, so the layout stays for the clicks.
     designer.LeaveMouseAction();
     send(grabbed, QEvent::MouseButtonRelease, start, Qt::LeftButton, Qt::NoButton);
-    repaint(&form);
-    std::printf("widgets painted per drag step: %.1f\n", double(counter.paints) / kSteps);
-    report("drag step with repaint", steps);
+    repaint();
+    steps.paints = counter.paints;
+    steps.report("drag step with repaint");
 
     // Clicking: from the 50 selected to one control, then from one to another.
-    std::vector<qint64> fromMany, fromOne;
-    int paintsFromMany = 0;
+    Timings fromMany, fromOne;
+    fromMany.paints = 0;
     for (int i = 0; i < kClicks; ++i) {
         for (int j = 0; j < kSelected; ++j)
             designer.AddControl(controls.at(j * 7));
-        repaint(&form);
+        repaint();
         QWidget *target = controls.at(500 + i);
         const QPoint at = target->mapToGlobal(QPoint(10, 10));
         QElapsedTimer t;
@@ -145,21 +110,20 @@ int main(int argc, char **argv)
         t.start();
         send(target, QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
         send(target, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
-        repaint(&form);
-        fromMany.push_back(t.nsecsElapsed());
-        paintsFromMany += counter.paints;
+        repaint();
+        fromMany.ns.push_back(t.nsecsElapsed());
+        fromMany.paints += counter.paints;
 
         QWidget *next = controls.at(300 + i);
         const QPoint nextAt = next->mapToGlobal(QPoint(10, 10));
         t.restart();
         send(next, QEvent::MouseButtonPress, nextAt, Qt::LeftButton, Qt::LeftButton);
         send(next, QEvent::MouseButtonRelease, nextAt, Qt::LeftButton, Qt::NoButton);
-        repaint(&form);
-        fromOne.push_back(t.nsecsElapsed());
+        repaint();
+        fromOne.ns.push_back(t.nsecsElapsed());
     }
-    std::printf("widgets painted per click from 50 selected: %.1f\n", double(paintsFromMany) / kClicks);
-    report("click from 50 selected to one, with repaint", fromMany);
-    report("click from one control to another, with repaint", fromOne);
+    fromMany.report("click from 50 selected to one, with repaint");
+    fromOne.report("click from one control to another, with repaint");
     designer.setActive(false);
     return 0;
 }

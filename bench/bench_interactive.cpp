@@ -16,6 +16,7 @@
 #include "FormDesigner.h"
 #include "MainForm.h"
 #include "Maske.h"
+#include "bench_input.h"
 #include "generated_mask.h"
 
 #include <QAction>
@@ -30,6 +31,8 @@
 #include <cstdio>
 #include <vector>
 
+using namespace BenchInput;
+
 namespace {
 
 constexpr int kSelected = 50;
@@ -37,59 +40,12 @@ constexpr int kSteps = 400;
 constexpr int kClicks = 200;
 constexpr int kPlacements = 100;
 
-// Counts the widgets painted, to show how much a step repaints.
-class TPaintCounter : public QObject
-{
-public:
-    int paints = 0;
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++paints;
-        return false;
-    }
-};
-
-void send(QWidget *w, QEvent::Type type, const QPoint &global, Qt::MouseButton button, Qt::MouseButtons buttons)
-{
-    QMouseEvent event(type, w->mapFromGlobal(global), global, button, buttons, Qt::NoModifier);
-    QApplication::sendEvent(w, &event);
-}
-
 void click(QWidget *w, const QPoint &local)
 {
     const QPoint global = w->mapToGlobal(local);
     send(w, QEvent::MouseButtonPress, global, Qt::LeftButton, Qt::LeftButton);
     send(w, QEvent::MouseButtonRelease, global, Qt::LeftButton, Qt::NoButton);
 }
-
-// Paints what the last input made dirty in every window, as the next frame would.
-void repaint()
-{
-    QCoreApplication::sendPostedEvents();
-    for (QWidget *w : QApplication::topLevelWidgets()) {
-        if (!w->isVisible())
-            continue;
-        QEvent request(QEvent::UpdateRequest);
-        QCoreApplication::sendEvent(w, &request);
-    }
-}
-
-struct Timings
-{
-    std::vector<qint64> ns;
-    int paints = 0;
-    void report(const char *what)
-    {
-        std::sort(ns.begin(), ns.end());
-        double sum = 0;
-        for (qint64 t : ns)
-            sum += double(t);
-        std::printf("%s (%zu runs): median %.3f ms, mean %.3f ms, 90%% %.3f ms, %.1f widgets painted\n", what,
-                    ns.size(), double(ns[ns.size() / 2]) / 1e6, sum / double(ns.size()) / 1e6,
-                    double(ns[ns.size() * 9 / 10]) / 1e6, double(paints) / double(ns.size()));
-    }
-};
 
 } // namespace
 

@@ -23,35 +23,15 @@
 #include "SqlEngine.h"
 #include "TableGenerator.h"
 #include "UserDialogs.h"
+#include "bench_tables.h"
+
+using namespace BenchTables;
 
 namespace {
 
 int kRecords = 100000; // a first argument sets another count
 const int kSteps = 2000;
 const int kJumps = 200;
-
-class Confirm : public UserDialogs
-{
-public:
-    Confirm() { setInstance(this); }
-    ~Confirm() override { setInstance(nullptr); }
-    TModalResult messageDlg(QWidget *, const QString &text, TMsgDlgType, TMsgDlgButtons buttons, const QString &) override
-    {
-        fprintf(stderr, "message: %s\n", qPrintable(text));
-        return (buttons & mbYes) ? mrYes : mrOk;
-    }
-    bool fileDialog(QWidget *, TFileDialog &) override { return false; }
-    std::optional<TColor> colorDialog(QWidget *, TColor) override { return std::nullopt; }
-    std::optional<QFont> fontDialog(QWidget *, const QFont &) override { return std::nullopt; }
-    QString directoryDialog(QWidget *, const QString &, const QString &) override { return QString(); }
-    int execDialog(QDialog *) override { return 0; }
-};
-
-TFieldRow row(const char *name, const char *code, const char *size = "", bool key = false)
-{
-    return TFieldRow{QLatin1String(name), QLatin1String(code), QLatin1String(size),
-                     key ? TTableGenerator::indexMark() : QString(), QString()};
-}
 
 bool makeTable(const TConnectionSettings &settings)
 {
@@ -97,7 +77,7 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv);
     if (argc > 1 && QByteArray(argv[1]).toInt() > 1000)
         kRecords = QByteArray(argv[1]).toInt();
-    Confirm confirm;
+    TAnswerYes confirm(true);
     QTemporaryDir dir;
     TConnectionSettings settings;
     settings.DBLocal = true;
@@ -231,7 +211,6 @@ int main(int argc, char *argv[])
         db.commit();
     }
     const qint64 plainSave = timer.nsecsElapsed() / kSaves;
-
 
     printf("run mode, SQLite, %d records\n", kRecords);
     printf("  open the table and show the first record  %8.1f ms\n", ms(open));

@@ -16,31 +16,11 @@
 #include "SqlEngine.h"
 #include "TableGenerator.h"
 #include "UserDialogs.h"
+#include "bench_tables.h"
+
+using namespace BenchTables;
 
 namespace {
-
-// Keeps the data, confirms every message.
-class KeepData : public UserDialogs
-{
-public:
-    KeepData() { setInstance(this); }
-    ~KeepData() override { setInstance(nullptr); }
-    TModalResult messageDlg(QWidget *, const QString &, TMsgDlgType, TMsgDlgButtons buttons, const QString &) override
-    {
-        return (buttons & mbYes) ? mrYes : mrOk;
-    }
-    bool fileDialog(QWidget *, TFileDialog &) override { return false; }
-    std::optional<TColor> colorDialog(QWidget *, TColor) override { return std::nullopt; }
-    std::optional<QFont> fontDialog(QWidget *, const QFont &) override { return std::nullopt; }
-    QString directoryDialog(QWidget *, const QString &, const QString &) override { return QString(); }
-    int execDialog(QDialog *) override { return 0; }
-};
-
-TFieldRow row(const char *name, const char *code, const char *size = "", bool key = false)
-{
-    return TFieldRow{QLatin1String(name), QLatin1String(code), QLatin1String(size),
-                     key ? TTableGenerator::indexMark() : QString(), QString()};
-}
 
 const QVector<TFieldRow> kBefore = {row("Name", "A", "20", true), row("Code", "A", "10"), row("Menge", "I"),
                                     row("Preis", "$"), row("Datum", "D")};
@@ -80,7 +60,7 @@ struct Figures
 Figures measure(const TConnectionSettings &settings, bool sqlite, qint64 rows)
 {
     Figures f;
-    KeepData dialogs;
+    TAnswerYes dialogs;
     TDbConnection connection;
     TTableGenerator first(connection, settings);
     first.TableName = QStringLiteral("Artikel");
