@@ -22,6 +22,7 @@
 #include "PgTestServer.h"
 #include "RegistryStore.h"
 #include "SetupDialog.h"
+#include "GuiSteps.h"
 #include "TestSupport.h"
 
 using namespace Colors;
@@ -81,12 +82,6 @@ private:
     void writeIni(const QString &text)
     {
         QVERIFY(writeFileBytes(m_iniPath, text.toLatin1()));
-    }
-    // Clicks the box where a user does: on its indicator (the box may be
-    // wider than its text).
-    static void clickCheckBox(QCheckBox *box)
-    {
-        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
     }
     static void showAndWait(TfrmSetup &w)
     {
@@ -275,7 +270,7 @@ private Q_SLOTS:
         step->setFocus();
         QTest::keyClick(step, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(step, QStringLiteral("16"));
-        clickCheckBox(child<QCheckBox>(w, "chbSnapToGrid"));
+        GuiSteps::clickCheck(child<QCheckBox>(w, "chbSnapToGrid"));
         QTest::mouseClick(child<QPushButton>(w, "btnCancel"), Qt::LeftButton);
         QCOMPARE(w.result(), int(QDialog::Rejected));
         QVERIFY(!w.isVisible());
@@ -324,7 +319,7 @@ private Q_SLOTS:
         TfrmSetup w;
         w.mainDesigner = [&main] { return &main; };
         showAndWait(w);
-        clickCheckBox(child<QCheckBox>(w, "chbDisplayGrid"));
+        GuiSteps::clickCheck(child<QCheckBox>(w, "chbDisplayGrid"));
         QTest::mouseClick(child<QRadioButton>(w, "DBServer"), Qt::LeftButton);
         QTest::mouseClick(child<QRadioButton>(w, "ServerProtokol_2"), Qt::LeftButton);
         auto *grab = child<QSpinBox>(w, "udnGrabSize");

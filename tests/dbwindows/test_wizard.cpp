@@ -13,28 +13,16 @@
 #include "Dbexpl.h"
 #include "FieldListBox.h"
 #include "MaskWriter.h"
+#include "GuiSteps.h"
 #include "TestSupport.h"
 #include "WizardDlg.h"
 #include "helper_dbwindows.h"
 
 using namespace DbWindowsTest;
+using GuiSteps::clickItem;
+using GuiSteps::texts;
 
 namespace {
-QStringList texts(const QListWidget *list)
-{
-    QStringList items;
-    for (int i = 0; i < list->count(); ++i)
-        items << list->item(i)->text();
-    return items;
-}
-
-void clickItem(QListWidget *list, const QString &text)
-{
-    QListWidgetItem *item = list->findItems(text, Qt::MatchExactly).value(0);
-    QVERIFY2(item, qPrintable(text));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(item).center());
-}
-
 // Steps through the items with the arrow keys, as a user picks one.
 void choose(QComboBox *combo, const QString &text)
 {

@@ -13,9 +13,9 @@
 #include "DesignerWidgets.h"
 #include "FormDesigner.h"
 #include "MyBtn.h"
-#include "helper_dialogs.h"
+#include "GuiSteps.h"
 
-using namespace DialogTest;
+using namespace GuiSteps;
 
 struct DesignForm
 {

@@ -14,6 +14,7 @@
 #include "FormDesigner.h"
 #include "Maske.h"
 #include "ObjectInspector.h"
+#include "GuiSteps.h"
 #include "TestSupport.h"
 
 namespace ObjInspTest {
@@ -67,27 +68,8 @@ struct InspFixture
     }
 };
 
-inline void retype(QWidget *edit, const QString &text)
-{
-    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
-    if (text.isEmpty())
-        QTest::keyClick(edit, Qt::Key_Delete);
-    else
-        QTest::keyClicks(edit, text);
-}
-
-// Picks an item with the keyboard, as a user steps through a closed combo.
-inline void choose(QComboBox *combo, int index)
-{
-    QTest::keyClick(combo, Qt::Key_Home);
-    for (int i = 0; i < index; ++i)
-        QTest::keyClick(combo, Qt::Key_Down);
-    QCOMPARE(combo->currentIndex(), index);
-}
-
-inline void clickCheck(QAbstractButton *button)
-{
-    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
-}
+using GuiSteps::choose;
+using GuiSteps::clickCheck;
+using GuiSteps::retype;
 
 } // namespace ObjInspTest

@@ -85,14 +85,6 @@ std::function<int(QDialog *)> typeIntoListEditor(QString *shown, const QStringLi
     };
 }
 
-QStringList messageTexts(const ScriptedDialogs &dialogs)
-{
-    QStringList out;
-    for (const auto &m : dialogs.messages)
-        out << m.text;
-    return out;
-}
-
 const QString kCreate = QStringLiteral("Dateiname nicht vorhanden. Soll eine neue angelegt werden?");
 const QString kEdit = QStringLiteral("Wollen Sie die Datei editieren?");
 
@@ -134,7 +126,7 @@ void TestObjInspTools::pickListFileIsCreatedAndEdited()
     // Not created when the user says no.
     f.dialogs.messageAnswers = {mrNo};
     QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(messageTexts(f.dialogs), QStringList{kCreate});
+    QCOMPARE(f.dialogs.messageTexts(), QStringList{kCreate});
     QCOMPARE(f.dialogs.messages.first().type, mtConfirmation);
     QCOMPARE(f.dialogs.messages.first().buttons, TMsgDlgButtons(mbYes | mbNo));
     QVERIFY(!QFileInfo::exists(file));
@@ -143,7 +135,7 @@ void TestObjInspTools::pickListFileIsCreatedAndEdited()
     f.dialogs.messages.clear();
     f.dialogs.messageAnswers = {mrYes, mrNo};
     QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(messageTexts(f.dialogs), (QStringList{kCreate, kEdit}));
+    QCOMPARE(f.dialogs.messageTexts(), (QStringList{kCreate, kEdit}));
     QVERIFY(QFileInfo(file).isFile());
     QCOMPARE(QFileInfo(file).size(), 0);
     QCOMPARE(combo->Items(), QStringList{QStringLiteral("alt")});
@@ -157,7 +149,7 @@ void TestObjInspTools::pickListFileIsCreatedAndEdited()
     f.dialogs.messageAnswers = {mrYes};
     f.dialogs.dialogAnswers = {typeIntoListEditor(&shown, items, true)};
     QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(messageTexts(f.dialogs), QStringList{kEdit});
+    QCOMPARE(f.dialogs.messageTexts(), QStringList{kEdit});
     QCOMPARE(f.dialogs.dialogTitles, QStringList{QStringLiteral("PullDownliste editieren")});
     QCOMPARE(shown, QString());
     QCOMPARE(readFileBytes(file), QByteArray("Herr\r\nFrau\r\nFr\xe4ulein\r\n"));
@@ -206,7 +198,7 @@ void TestObjInspTools::pickListFileKeepsItsNameAndReportsFailures()
     f.dialogs.messageAnswers = {mrYes};
     f.dialogs.dialogAnswers = {typeIntoListEditor(&shown, {QStringLiteral("Köln"), QStringLiteral("Bonn")}, true)};
     QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(messageTexts(f.dialogs), QStringList{kEdit});
+    QCOMPARE(f.dialogs.messageTexts(), QStringList{kEdit});
     QCOMPARE(shown, QStringLiteral("Köln\nBonn"));
     QCOMPARE(readFileBytes(file), QByteArray("K\xf6ln\r\nBonn\r\n"));
     QCOMPARE(combo->Items(), (QStringList{QStringLiteral("Köln"), QStringLiteral("Bonn")}));

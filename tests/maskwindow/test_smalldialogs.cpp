@@ -8,16 +8,14 @@
 #include <QtTest>
 
 #include "../designer/helper_designform.h"
-#include "../designer/helper_dialogs.h"
 #include "FormAlignment.h"
 #include "Edits.h"
 #include "MemoDialog.h"
 #include "SizeForm.h"
+#include "GuiSteps.h"
 #include "TestSupport.h"
 
-using DialogTest::buttonWithText;
-using DialogTest::child;
-using DialogTest::clickRadio;
+using namespace GuiSteps;
 
 class TestSmallDialogs : public QObject
 {
@@ -42,8 +40,8 @@ QRadioButton *radio(QWidget *dialog, const char *group, int index)
     return box ? box->findChild<QRadioButton *>(QString::fromLatin1(group) + QString::number(index)) : nullptr;
 }
 
-// Replaces the edit's text as a user does: select everything, type.
-void retype(QLineEdit *edit, const QString &text)
+// Replaces an edit's text as a user does: focus, select everything, erase, type.
+void retypeDigits(QLineEdit *edit, const QString &text)
 {
     edit->setFocus();
     QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
@@ -63,17 +61,9 @@ void fillSizeForm(QDialog *dlg, const SizeUse &use)
     dlg->show();
     clickRadio(radio(dlg, "HorizontalSize", use.width));
     clickRadio(radio(dlg, "VerticalSize", use.height));
-    retype(child<QLineEdit>(dlg, "SizeWidth"), use.widthText);
-    retype(child<QLineEdit>(dlg, "SizeHeight"), use.heightText);
+    retypeDigits(child<QLineEdit>(dlg, "SizeWidth"), use.widthText);
+    retypeDigits(child<QLineEdit>(dlg, "SizeHeight"), use.heightText);
     QTest::mouseClick(buttonWithText(dlg, QStringLiteral("&OK")), Qt::LeftButton);
-}
-
-QStringList messageTexts(const ScriptedDialogs &dialogs)
-{
-    QStringList out;
-    for (const ScriptedDialogs::Message &m : dialogs.messages)
-        out << m.text;
-    return out;
 }
 
 // Three controls at uneven places, the first one selected first.
@@ -116,12 +106,12 @@ void TestSmallDialogs::sizeFormChecksTheValuesItUses()
         dialogs.messages.clear();
         TSizeForm dlg;
         fillSizeForm(&dlg, {3, 3, typed, QStringLiteral("0")});
-        QCOMPARE(messageTexts(dialogs), QStringList{message});
+        QCOMPARE(dialogs.messageTexts(), QStringList{message});
         QCOMPARE(dialogs.messages.first().type, mtInformation);
         QVERIFY(dlg.isVisible() && dlg.result() != QDialog::Accepted);
         QCOMPARE(dlg.focusWidget(), child<QWidget>(&dlg, "SizeWidth"));
-        retype(child<QLineEdit>(&dlg, "SizeWidth"), QStringLiteral("7"));
-        retype(child<QLineEdit>(&dlg, "SizeHeight"), QStringLiteral("8"));
+        retypeDigits(child<QLineEdit>(&dlg, "SizeWidth"), QStringLiteral("7"));
+        retypeDigits(child<QLineEdit>(&dlg, "SizeHeight"), QStringLiteral("8"));
         QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
         QCOMPARE(dlg.result(), int(QDialog::Accepted));
         QCOMPARE(dialogs.messages.size(), 1);
@@ -131,11 +121,11 @@ void TestSmallDialogs::sizeFormChecksTheValuesItUses()
     dialogs.messages.clear();
     TSizeForm dlg;
     fillSizeForm(&dlg, {3, 3, QStringLiteral("25"), QStringLiteral("0")});
-    QCOMPARE(messageTexts(dialogs), QStringList{QStringLiteral("Height must be greater than 0")});
+    QCOMPARE(dialogs.messageTexts(), QStringList{QStringLiteral("Height must be greater than 0")});
     QCOMPARE(dlg.focusWidget(), child<QWidget>(&dlg, "SizeHeight"));
-    retype(child<QLineEdit>(&dlg, "SizeHeight"), QString());
+    retypeDigits(child<QLineEdit>(&dlg, "SizeHeight"), QString());
     QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
-    QCOMPARE(messageTexts(dialogs).last(), QStringLiteral("Invalid height entry.  Please re-enter."));
+    QCOMPARE(dialogs.messageTexts().last(), QStringLiteral("Invalid height entry.  Please re-enter."));
     QVERIFY(dlg.isVisible());
 
     // Values a choice does not use are not looked at, nor on cancel.
@@ -148,7 +138,7 @@ void TestSmallDialogs::sizeFormChecksTheValuesItUses()
         QCOMPARE(other.VerticalIndex(), 2 - choice);
     }
     clickRadio(radio(&dlg, "HorizontalSize", 3));
-    retype(child<QLineEdit>(&dlg, "SizeWidth"), QString());
+    retypeDigits(child<QLineEdit>(&dlg, "SizeWidth"), QString());
     QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&Abbrechen")), Qt::LeftButton);
     QCOMPARE(dlg.result(), int(QDialog::Rejected));
     QVERIFY(dialogs.messages.isEmpty());
@@ -160,7 +150,7 @@ void TestSmallDialogs::sizeFormTakesDigitsAndStartsAfresh()
     TSizeForm dlg;
     dlg.show();
     auto *width = child<QLineEdit>(&dlg, "SizeWidth");
-    retype(width, QStringLiteral("a1b2-3.,x 4"));
+    retypeDigits(width, QStringLiteral("a1b2-3.,x 4"));
     QCOMPARE(width->text(), QStringLiteral("1234"));
     QTest::keyClick(width, Qt::Key_Home);
     QTest::keyClick(width, Qt::Key_Right);
@@ -214,7 +204,7 @@ void TestSmallDialogs::runSizeDialogSizesTheSelection()
     dialogs.dialogAnswers << [](QDialog *dlg) {
         dlg->show();
         clickRadio(radio(dlg, "HorizontalSize", 3));
-        retype(child<QLineEdit>(dlg, "SizeWidth"), QString());
+        retypeDigits(child<QLineEdit>(dlg, "SizeWidth"), QString());
         return int(QDialog::Accepted);
     };
     runSizeDialog(&f.form, f.designer);

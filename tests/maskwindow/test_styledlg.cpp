@@ -11,7 +11,10 @@
 #include "Edits.h"
 #include "Maske.h"
 #include "StyleDlg.h"
+#include "GuiSteps.h"
 #include "TestSupport.h"
+
+using namespace GuiSteps;
 
 namespace {
 
@@ -26,15 +29,6 @@ struct RecordingDialogs : ScriptedDialogs
     }
 };
 
-template <class T>
-T *child(QWidget *dialog, const char *name)
-{
-    T *w = dialog->findChild<T *>(QString::fromLatin1(name));
-    if (!w)
-        qWarning("missing %s", name);
-    return w;
-}
-
 // Picks a list entry the way a user does: focus the list, step with the keys.
 void chooseItem(QComboBox *combo, int index)
 {
@@ -44,12 +38,6 @@ void chooseItem(QComboBox *combo, int index)
     QTest::keyClick(combo, Qt::Key_Home);
     for (int i = 0; i < index; ++i)
         QTest::keyClick(combo, Qt::Key_Down);
-}
-
-// A click on the box itself; a wide check box does not react beyond its caption.
-void click(QCheckBox *box)
-{
-    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
 }
 
 QRgb borderPixel(QWidget *edit)
@@ -130,13 +118,13 @@ void TestStyleDlg::everyChangeGoesToTheControllerAtOnce()
     QCOMPARE(color->currentText(), QStringLiteral("clTeal"));
     QCOMPARE(style.BorderColor(), Colors::clTeal);
 
-    click(child<QCheckBox>(&dlg, "cbHotTrack"));
+    clickCheck(child<QCheckBox>(&dlg, "cbHotTrack"));
     QVERIFY(style.HotTrack());
-    click(child<QCheckBox>(&dlg, "cbShadow"));
+    clickCheck(child<QCheckBox>(&dlg, "cbShadow"));
     QVERIFY(style.Shadow());
-    click(child<QCheckBox>(&dlg, "cbGradient"));
+    clickCheck(child<QCheckBox>(&dlg, "cbGradient"));
     QVERIFY(style.Gradient());
-    click(child<QCheckBox>(&dlg, "cbShadow"));
+    clickCheck(child<QCheckBox>(&dlg, "cbShadow"));
     QVERIFY(!style.Shadow());
     QVERIFY(style.HotTrack());
 
@@ -156,13 +144,13 @@ void TestStyleDlg::edgeBoxesChangeOnlyTheirOwnBit()
     QVERIFY(QTest::qWaitForWindowExposed(&dlg));
     QCOMPARE(style.Edges(), kAllEdges);
 
-    click(child<QCheckBox>(&dlg, "cbTop"));
+    clickCheck(child<QCheckBox>(&dlg, "cbTop"));
     QCOMPARE(style.Edges(), 13);
-    click(child<QCheckBox>(&dlg, "cbLeft"));
+    clickCheck(child<QCheckBox>(&dlg, "cbLeft"));
     QCOMPARE(style.Edges(), bRight | bBottom);
-    click(child<QCheckBox>(&dlg, "cbBottom"));
+    clickCheck(child<QCheckBox>(&dlg, "cbBottom"));
     QCOMPARE(style.Edges(), int(bRight));
-    click(child<QCheckBox>(&dlg, "cbTop"));
+    clickCheck(child<QCheckBox>(&dlg, "cbTop"));
     QCOMPARE(style.Edges(), bRight | bTop);
     // Keyboard: space toggles the focused box.
     auto *right = child<QCheckBox>(&dlg, "cbRight");

@@ -43,6 +43,15 @@ public:
     QStringList dialogTitles;           // window titles of our own modal windows
     int unexpected = 0;
 
+    // The texts of the message boxes shown, in order.
+    QStringList messageTexts() const
+    {
+        QStringList texts;
+        for (const Message &m : messages)
+            texts << m.text;
+        return texts;
+    }
+
     TModalResult messageDlg(QWidget *parent, const QString &text, TMsgDlgType type, TMsgDlgButtons buttons,
                             const QString &caption) override;
     bool fileDialog(QWidget *parent, TFileDialog &dialog) override;

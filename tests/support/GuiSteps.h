@@ -1,15 +1,15 @@
 #pragma once
 
-// Mouse and keyboard helpers for driving the designer's small windows as a
-// user does.
+// Mouse and keyboard steps for driving windows as a user does.
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QListWidget>
 #include <QRadioButton>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QtTest>
 
-namespace DialogTest {
+namespace GuiSteps {
 
 template<typename T>
 T *child(QObject *parent, const char *name)
@@ -66,10 +66,35 @@ inline QStringList texts(const QListWidget *list)
     return result;
 }
 
+// Selects the whole text and types over it (an empty text deletes it).
+inline void retype(QWidget *edit, const QString &text)
+{
+    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+    if (text.isEmpty())
+        QTest::keyClick(edit, Qt::Key_Delete);
+    else
+        QTest::keyClicks(edit, text);
+}
+
+// Picks an item with the keyboard, as a user steps through a closed combo.
+inline void choose(QComboBox *combo, int index)
+{
+    QTest::keyClick(combo, Qt::Key_Home);
+    for (int i = 0; i < index; ++i)
+        QTest::keyClick(combo, Qt::Key_Down);
+    QCOMPARE(combo->currentIndex(), index);
+}
+
+// Clicks on a check box's box: a wide one does not react beyond its caption.
+inline void clickCheck(QAbstractButton *button)
+{
+    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
+}
+
 inline bool showAndWait(QWidget *w)
 {
     w->show();
     return QTest::qWaitForWindowExposed(w);
 }
 
-} // namespace DialogTest
+} // namespace GuiSteps
