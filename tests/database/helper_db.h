@@ -12,6 +12,7 @@
 #include "PgTestServer.h"
 #include "SqlEngine.h"
 #include "TableGenerator.h"
+#include "TestSupport.h"
 
 class DbFixture
 {
@@ -65,6 +66,21 @@ inline void execOk(TSqlEngine *engine, const QString &sql)
 {
     QString error;
     QVERIFY2(engine->exec(sql, &error), qPrintable(sql + QLatin1String(": ") + error));
+}
+
+// Generates a table as the table explorer does (OK to its success message)
+// and fills it with the statements given.
+inline void createTable(const TConnectionSettings &settings, ScriptedDialogs &dialogs, const QString &name,
+                        const QVector<TFieldRow> &rows, const QStringList &fill = {})
+{
+    TDbConnection connection;
+    TTableGenerator generator(connection, settings);
+    generator.TableName = name;
+    generator.Rows = rows;
+    dialogs.messageAnswers << mrOk;
+    QVERIFY(generator.CreateDB());
+    for (const QString &sql : fill)
+        execOk(connection.engine(), sql);
 }
 
 inline QVariant scalarOf(TSqlEngine *engine, const QString &sql)

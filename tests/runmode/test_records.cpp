@@ -56,15 +56,12 @@ void TestRecords::newSaveChangeDelete()
     const TConnectionSettings settings = g_fixture->settings(engine);
     {
         ScriptedDialogs dialogs;
-        TDbConnection connection;
-        TTableGenerator generator(connection, settings);
-        generator.TableName = QStringLiteral("Kunden");
-        generator.Rows = {fieldRow(QStringLiteral("Nummer"), QStringLiteral("A"), QStringLiteral("10"), true),
-                          fieldRow(QStringLiteral("Name"), QStringLiteral("A"), QStringLiteral("20")),
-                          fieldRow(QStringLiteral("Datum"), QStringLiteral("D")),
-                          fieldRow(QStringLiteral("Betrag"), QStringLiteral("$")),
-                          fieldRow(QStringLiteral("Bearbeiter"), QStringLiteral("A"), QStringLiteral("30"))};
-        QVERIFY(generator.CreateDB());
+        createTable(settings, dialogs, QStringLiteral("Kunden"),
+                    {fieldRow(QStringLiteral("Nummer"), QStringLiteral("A"), QStringLiteral("10"), true),
+                     fieldRow(QStringLiteral("Name"), QStringLiteral("A"), QStringLiteral("20")),
+                     fieldRow(QStringLiteral("Datum"), QStringLiteral("D")),
+                     fieldRow(QStringLiteral("Betrag"), QStringLiteral("$")),
+                     fieldRow(QStringLiteral("Bearbeiter"), QStringLiteral("A"), QStringLiteral("30"))});
     }
     QVERIFY(QDir().mkpath(settings.DBPfad));
     QVERIFY(writeFileBytes(settings.DBPfad + QStringLiteral("KUNDEN.NUM"), "0041\r\n"));

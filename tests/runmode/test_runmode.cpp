@@ -79,17 +79,11 @@ void TestRunMode::enterNavigateEditAndBack()
     QFETCH(QString, engine);
     const TConnectionSettings settings = g_fixture->settings(engine);
     ScriptedDialogs dialogs;
-    {
-        TDbConnection connection;
-        TTableGenerator generator(connection, settings);
-        generator.TableName = QStringLiteral("Kunde");
-        dialogs.messageAnswers << mrOk;
-        generator.Rows = {fieldRow(QStringLiteral("Nummer"), QStringLiteral("A"), QStringLiteral("10"), true),
-                          fieldRow(QStringLiteral("Name"), QStringLiteral("A"), QStringLiteral("30"))};
-        QVERIFY(generator.CreateDB());
-        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Kunde\" (\"Nummer\", \"Name\") VALUES "
-                                                   "('K1', 'Adam'), ('K2', 'Berta'), ('K3', 'Cäsar')"));
-    }
+    createTable(settings, dialogs, QStringLiteral("Kunde"),
+                {fieldRow(QStringLiteral("Nummer"), QStringLiteral("A"), QStringLiteral("10"), true),
+                 fieldRow(QStringLiteral("Name"), QStringLiteral("A"), QStringLiteral("30"))},
+                {QStringLiteral("INSERT INTO \"Kunde\" (\"Nummer\", \"Name\") VALUES "
+                                "('K1', 'Adam'), ('K2', 'Berta'), ('K3', 'Cäsar')")});
     QVERIFY(QDir().mkpath(settings.DBPfad));
     QVERIFY(writeFileBytes(settings.DBPfad + QStringLiteral("K.NUM"), "7"));
 
@@ -230,15 +224,9 @@ void TestRunMode::runModeKeepsItsToolsAndAsks()
 {
     const TConnectionSettings settings = g_fixture->settings(QStringLiteral("sqlite"));
     ScriptedDialogs dialogs;
-    {
-        TDbConnection connection;
-        TTableGenerator generator(connection, settings);
-        generator.TableName = QStringLiteral("Artikel");
-        dialogs.messageAnswers << mrOk;
-        generator.Rows = {fieldRow(QStringLiteral("Nummer"), QStringLiteral("A"), QStringLiteral("10"), true)};
-        QVERIFY(generator.CreateDB());
-        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Artikel\" (\"Nummer\") VALUES ('A1'), ('B2'), ('C3')"));
-    }
+    createTable(settings, dialogs, QStringLiteral("Artikel"),
+                {fieldRow(QStringLiteral("Nummer"), QStringLiteral("A"), QStringLiteral("10"), true)},
+                {QStringLiteral("INSERT INTO \"Artikel\" (\"Nummer\") VALUES ('A1'), ('B2'), ('C3')")});
     TMainForm form(QStringList{});
     form.show();
     QVERIFY(QTest::qWaitForWindowExposed(&form));
@@ -294,25 +282,18 @@ void TestRunMode::controlsOfferTheirValues()
 {
     const TConnectionSettings settings = g_fixture->settings(QStringLiteral("sqlite"));
     ScriptedDialogs dialogs;
-    {
-        TDbConnection connection;
-        TTableGenerator generator(connection, settings);
-        generator.TableName = QStringLiteral("Orte");
-        dialogs.messageAnswers << mrOk << mrOk;
-        generator.Rows = {fieldRow(QStringLiteral("Ort"), QStringLiteral("A"), QStringLiteral("20"), true)};
-        QVERIFY(generator.CreateDB());
-        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Orte\" (\"Ort\") VALUES ('Ulm'), ('Bonn'), ('Ulm')"));
-        generator.TableName = QStringLiteral("Posten");
-        generator.Rows = {fieldRow(QStringLiteral("Titel"), QStringLiteral("A"), QStringLiteral("20"), true),
-                          fieldRow(QStringLiteral("Ort"), QStringLiteral("A"), QStringLiteral("20")),
-                          fieldRow(QStringLiteral("Datum"), QStringLiteral("D")),
-                          fieldRow(QStringLiteral("Farbe"), QStringLiteral("A"), QStringLiteral("10"))};
-        QVERIFY(generator.CreateDB());
-        // Two levels: "Teil" hangs below "Ganzes".
-        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Posten\" (\"Titel\", \"Ort\") VALUES ('Ganzes', 'Bonn')"));
-        execOk(connection.engine(), QStringLiteral("INSERT INTO \"Posten\" (\"Titel\", \"QXParent\") SELECT 'Teil', \"QXID\" "
-                                                   "FROM \"Posten\" WHERE \"Titel\" = 'Ganzes'"));
-    }
+    createTable(settings, dialogs, QStringLiteral("Orte"),
+                {fieldRow(QStringLiteral("Ort"), QStringLiteral("A"), QStringLiteral("20"), true)},
+                {QStringLiteral("INSERT INTO \"Orte\" (\"Ort\") VALUES ('Ulm'), ('Bonn'), ('Ulm')")});
+    // Two levels: "Teil" hangs below "Ganzes".
+    createTable(settings, dialogs, QStringLiteral("Posten"),
+                {fieldRow(QStringLiteral("Titel"), QStringLiteral("A"), QStringLiteral("20"), true),
+                 fieldRow(QStringLiteral("Ort"), QStringLiteral("A"), QStringLiteral("20")),
+                 fieldRow(QStringLiteral("Datum"), QStringLiteral("D")),
+                 fieldRow(QStringLiteral("Farbe"), QStringLiteral("A"), QStringLiteral("10"))},
+                {QStringLiteral("INSERT INTO \"Posten\" (\"Titel\", \"Ort\") VALUES ('Ganzes', 'Bonn')"),
+                 QStringLiteral("INSERT INTO \"Posten\" (\"Titel\", \"QXParent\") SELECT 'Teil', \"QXID\" "
+                                "FROM \"Posten\" WHERE \"Titel\" = 'Ganzes'")});
     TMainForm form(QStringList{});
     form.show();
     QVERIFY(QTest::qWaitForWindowExposed(&form));
