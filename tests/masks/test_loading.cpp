@@ -150,10 +150,19 @@ void TestLoading::oddFilesNeverBreakTheLoad()
     Fixture home;
 
     // Gaps in the numbering are harmless; above 1000 nothing is loaded.
+    // Sections load by number, whatever their order or case in the file;
+    // a number written with a leading zero names no section.
     const QString gaps = home.path(QStringLiteral("gaps.dbm"));
-    writeMask(gaps, QStringLiteral("[Label_2]\nName=zwei\n[Label_1000]\nName=tausend\n[Field_1001]\nName=X\n"));
+    writeMask(gaps,
+              QStringLiteral("[Label_1000]\nName=tausend\n[Label_10]\nName=zehn\n[label_9]\nName=neun\n"
+                             "[Label_07]\nName=null\n[Label_2]\nName=zwei\n[Field_1001]\nName=X\n"));
     TMaskDocument *mask = home.load(gaps);
-    QCOMPARE(controlClasses(mask), QStringList({"TLabel", "TLabel"}));
+    QStringList captions;
+    for (QObject *c : Components::components(mask))
+        if (auto *label = qobject_cast<TLabel *>(c))
+            captions << label->Caption();
+    QCOMPARE(captions, QStringList({"zwei", "neun", "zehn", "tausend"}));
+    QCOMPARE(controlClasses(mask).size(), 4);
 
     // Extreme numbers are clamped, never trusted.
     const QString huge = home.path(QStringLiteral("huge.dbm"));
