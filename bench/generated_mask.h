@@ -140,6 +140,19 @@ inline Layout makeLayout(int count)
     int pageFill = 0;
     int panel = -1;
     int panelFill = 0;
+    // Positions stay within what the file format holds (16 bits): a full
+    // band continues to its right.
+    const int top = y;
+    int left = 8;
+    int bands = 1;
+    const auto nextRow = [&](int height) {
+        y += height;
+        if (y + 2 * (kCellHeight + 24) > 32000) {
+            y = top;
+            left += kFullWidth + 16;
+            ++bands;
+        }
+    };
 
     for (int slot = 0; int(l.nodes.size()) < count; ++slot) {
         const Kind k = kPattern[slot % kPatternSize];
@@ -147,12 +160,12 @@ inline Layout makeLayout(int count)
             if (pageFill < 2 * kPageChildren)
                 continue; // the pages come first
             if (column > 0) {
-                y += kCellHeight;
+                nextRow(kCellHeight);
                 column = 0;
             }
-            panel = add(kPanel, -1, QRect(8, y, kFullWidth, kCellHeight + 16));
+            panel = add(kPanel, -1, QRect(left, y, kFullWidth, kCellHeight + 16));
             panelFill = 0;
-            y += kCellHeight + 24;
+            nextRow(kCellHeight + 24);
             continue;
         }
         if (pageFill < 2 * kPageChildren) {
@@ -163,15 +176,15 @@ inline Layout makeLayout(int count)
             add(k, panel, cell(k, 8 + panelFill * kCellWidth, 8));
             ++panelFill;
         } else {
-            add(k, -1, cell(k, 8 + column * kCellWidth, y));
+            add(k, -1, cell(k, left + column * kCellWidth, y));
             if (++column == kColumns) {
                 column = 0;
-                y += kCellHeight;
+                nextRow(kCellHeight);
             }
         }
     }
-    l.width = 8 + kFullWidth + 8;
-    l.height = y + kCellHeight + 8;
+    l.width = bands * (kFullWidth + 16);
+    l.height = bands > 1 ? 32000 : y + kCellHeight + 8;
     return l;
 }
 
