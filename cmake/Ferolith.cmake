@@ -30,7 +30,8 @@ function(ferolith_tests)
         target_link_libraries(${_target} PRIVATE Qt6::Test testsupport ${ARGN})
         add_test(NAME ${_folder}.${_stem} COMMAND ${_target})
         set_tests_properties(${_folder}.${_stem} PROPERTIES
-            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
+            # Every reused control stream is checked against a fresh one.
+            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;FEROLITH_CHECK_STREAM_CACHE=1;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
             TIMEOUT 300
             LABELS ${_folder})
     endforeach()

@@ -15,6 +15,7 @@
 #include "DesignerInput.h"
 #include "DesignerTypes.h"
 #include "DragSession.h"
+#include "StreamCache.h"
 
 class QIODevice;
 class TMemIniFile;
@@ -404,6 +405,7 @@ private:
     TDesignerInput m_input;
     TGrabHandles *m_grabs = nullptr;
     TDesignOverlay *m_overlay = nullptr;
+    mutable TStreamCache m_streamCache;
     QPointer<QWidget> m_underlay; // paints the grid under the controls
     QList<QPointer<TComponentContainer>> m_containers;
     QPixmap m_grabBitmap[3];

@@ -379,8 +379,10 @@ void TCustomFormDesigner::SaveToStream(QIODevice &stream)
 QList<QByteArray> TCustomFormDesigner::layoutStreams() const
 {
     QList<QByteArray> out;
-    for (QWidget *w : layoutControls())
-        out << componentToBytes(w, TStreamFormat::Binary);
+    const QList<QWidget *> controls = layoutControls();
+    m_streamCache.keepOnly(controls);
+    for (QWidget *w : controls)
+        out << m_streamCache.bytes(w);
     return out;
 }
 

@@ -58,48 +58,56 @@ void TPanel::changed()
 
 void TPanel::setCaption(const QString &caption)
 {
+    noteChange();
     m_caption = caption;
     update();
 }
 
 void TPanel::setAlignment(TAlignment alignment)
 {
+    noteChange();
     m_alignment = alignment;
     update();
 }
 
 void TPanel::setBevelInner(TPanelBevel bevel)
 {
+    noteChange();
     m_bevelInner = bevel;
     changed();
 }
 
 void TPanel::setBevelOuter(TPanelBevel bevel)
 {
+    noteChange();
     m_bevelOuter = bevel;
     changed();
 }
 
 void TPanel::setBevelWidth(int width)
 {
+    noteChange();
     m_bevelWidth = std::clamp(width, 1, 100);
     changed();
 }
 
 void TPanel::setBorderStyle(TBorderStyle style)
 {
+    noteChange();
     m_borderStyle = style;
     changed();
 }
 
 void TPanel::setBorderWidth(int width)
 {
+    noteChange();
     m_borderWidth = std::clamp(width, 0, 100);
     changed();
 }
 
 void TPanel::setCtl3D(bool ctl3D)
 {
+    noteChange();
     m_ctl3D = ctl3D;
     changed();
 }
@@ -200,6 +208,7 @@ const TClassInfo &TDBRadioGroup::staticClassInfo()
 
 void TDBRadioGroup::setItems(const QStringList &items)
 {
+    noteChange();
     const int index = ItemIndex();
     qDeleteAll(m_buttons);
     m_buttons.clear();
@@ -220,6 +229,7 @@ void TDBRadioGroup::setItems(const QStringList &items)
 
 void TDBRadioGroup::setColumns(int columns)
 {
+    noteChange();
     m_columns = std::clamp(columns, 1, 16);
     arrangeButtons();
 }
@@ -234,6 +244,7 @@ int TDBRadioGroup::ItemIndex() const
 
 void TDBRadioGroup::setItemIndex(int index)
 {
+    noteChange();
     index = std::clamp(index, -1, int(m_buttons.size()) - 1);
     // Radio buttons of one parent exclude each other; unchecking needs that off.
     for (int i = 0; i < m_buttons.size(); ++i) {
@@ -246,6 +257,7 @@ void TDBRadioGroup::setItemIndex(int index)
 
 void TDBRadioGroup::setReadOnly(bool readOnly)
 {
+    noteChange();
     m_readOnly = readOnly;
     designingChanged();
 }
@@ -323,6 +335,7 @@ QStringList TTabSet::Tabs() const
 
 void TTabSet::setTabs(const QStringList &tabs)
 {
+    noteChange();
     while (count() > 0)
         removeTab(count() - 1);
     for (const QString &t : tabs)
@@ -331,6 +344,7 @@ void TTabSet::setTabs(const QStringList &tabs)
 
 void TTabSet::setTabIndex(int index)
 {
+    noteChange();
     if (index >= -1 && index < count())
         setCurrentIndex(index);
 }

@@ -65,17 +65,29 @@ public:
     const TClassInfo &classInfo() const override { return staticClassInfo(); }
 
     QString Caption() const override { return title(); }
-    void setCaption(const QString &caption) override { setTitle(caption); }
+    void setCaption(const QString &caption) override
+    {
+        noteChange();
+        setTitle(caption);
+    }
     QStringList Items() const { return m_items; }
     void setItems(const QStringList &items);
     QStringList Values() const { return m_values; }
-    void setValues(const QStringList &values) { m_values = values; }
+    void setValues(const QStringList &values)
+    {
+        noteChange();
+        m_values = values;
+    }
     int Columns() const { return m_columns; }
     void setColumns(int columns);
     int ItemIndex() const;
     void setItemIndex(int index);
     QString DataField() const { return m_dataField; }
-    void setDataField(const QString &field) { m_dataField = field; }
+    void setDataField(const QString &field)
+    {
+        noteChange();
+        m_dataField = field;
+    }
     bool ReadOnly() const { return m_readOnly; }
     void setReadOnly(bool readOnly);
 

@@ -341,6 +341,7 @@ TControl::TControl(QWidget *self) : m_self(self)
 {
     // A new control shows its name until it gets a caption of its own.
     QObject::connect(self, &QObject::objectNameChanged, self, [this](const QString &name) {
+        noteChange();
         if (classInfo().setCaptionFromName && !isLoading() && Caption() == m_lastName)
             setCaption(name);
         m_lastName = name;
@@ -359,43 +360,51 @@ TControl::~TControl()
 
 void TControl::setLeft(int value)
 {
+    noteChange();
     m_self->move(clampPosition(value), m_self->y());
 }
 
 void TControl::setTop(int value)
 {
+    noteChange();
     m_self->move(m_self->x(), clampPosition(value));
 }
 
 void TControl::setWidth(int value)
 {
+    noteChange();
     m_self->resize(clampSize(value), m_self->height());
 }
 
 void TControl::setHeight(int value)
 {
+    noteChange();
     m_self->resize(m_self->width(), clampSize(value));
 }
 
 void TControl::setBounds(int left, int top, int width, int height)
 {
+    noteChange();
     m_self->setGeometry(clampPosition(left), clampPosition(top), clampSize(width), clampSize(height));
 }
 
 void TControl::setHint(const QString &hint)
 {
+    noteChange();
     m_hint = hint;
     m_self->setToolTip(m_showHint ? m_hint : QString());
 }
 
 void TControl::setShowHint(bool show)
 {
+    noteChange();
     m_showHint = show;
     m_self->setToolTip(m_showHint ? m_hint : QString());
 }
 
 void TControl::setAlign(TAlign align)
 {
+    noteChange();
     if (m_align == align)
         return;
     if (ContainerInfo *info = ContainerInfo::of(m_tabParent, false); info && (m_align == alNone) != (align == alNone))
@@ -415,6 +424,7 @@ TColor TControl::Color() const
 
 void TControl::setColor(TColor color)
 {
+    noteChange();
     m_color = color;
     m_parentColor = false;
     applyColor();
@@ -422,12 +432,14 @@ void TControl::setColor(TColor color)
 
 void TControl::setParentColor(bool parentColor)
 {
+    noteChange();
     m_parentColor = parentColor;
     applyColor();
 }
 
 void TControl::setTransparent(bool transparent)
 {
+    noteChange();
     m_transparent = transparent;
     applyColor();
 }
@@ -469,6 +481,7 @@ TFont TControl::Font() const
 
 void TControl::setFont(const TFont &font)
 {
+    noteChange();
     QFont f = m_self->font();
     f.setFamily(font.Name);
     if (font.Size > 0)
@@ -484,6 +497,7 @@ void TControl::setFont(const TFont &font)
 
 void TControl::setParentFont(bool parentFont)
 {
+    noteChange();
     m_parentFont = parentFont;
     if (parentFont)
         m_self->setFont(QFont());
@@ -501,6 +515,7 @@ int TControl::TabOrder() const
 
 void TControl::setTabOrder(int order)
 {
+    noteChange();
     if (isLoading()) {
         m_loadTabOrder = order;
         return;
@@ -545,6 +560,7 @@ void TControl::endLoading(bool applyPendingTabOrder)
 
 void TControl::setDesigning(bool designing)
 {
+    noteChange();
     const int state = designing ? (m_state | csDesigning) : (m_state & ~csDesigning);
     if (state == m_state)
         return;
@@ -610,18 +626,38 @@ void TControl::requestParentAlign()
         ControlLayout::alignControls(m_self->parentWidget());
 }
 
+void TControl::noteChange()
+{
+    ++m_revision;
+    for (QWidget *w = m_self->parentWidget(); w && !w->isWindow(); w = w->parentWidget())
+        if (TControl *c = from(w))
+            ++c->m_revision;
+}
+
 void TControl::controlEvent(QEvent *event)
 {
     switch (event->type()) {
     case QEvent::ParentChange:
+        noteChange();
         parentChanged();
         break;
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::Show:
     case QEvent::Hide:
+        noteChange();
         if (m_align != alNone)
             requestParentAlign();
+        break;
+    case QEvent::ChildAdded:
+    case QEvent::ChildRemoved:
+    case QEvent::ZOrderChange:
+    case QEvent::FontChange:
+    case QEvent::PaletteChange:
+    case QEvent::EnabledChange:
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+        noteChange();
         break;
     case QEvent::ApplicationPaletteChange:
         // System colours follow the platform palette.

@@ -27,7 +27,11 @@ public:
     virtual const TClassInfo &classInfo() const = 0;
 
     QString Name() const { return m_self->objectName(); }
-    void setName(const QString &name) { m_self->setObjectName(name); }
+    void setName(const QString &name)
+    {
+        noteChange();
+        m_self->setObjectName(name);
+    }
 
     int Left() const { return m_self->x(); }
     int Top() const { return m_self->y(); }
@@ -47,13 +51,21 @@ public:
     bool Enabled() const { return m_self->isEnabled(); }
 
     int Tag() const { return m_tag; }
-    void setTag(int tag) { m_tag = tag; }
+    void setTag(int tag)
+    {
+        noteChange();
+        m_tag = tag;
+    }
     QString Hint() const { return m_hint; }
     void setHint(const QString &hint);
     bool ShowHint() const { return m_showHint; }
     void setShowHint(bool show);
     QString HelpKeyword() const { return m_helpKeyword; }
-    void setHelpKeyword(const QString &keyword) { m_helpKeyword = keyword; }
+    void setHelpKeyword(const QString &keyword)
+    {
+        noteChange();
+        m_helpKeyword = keyword;
+    }
 
     TAlign Align() const { return m_align; }
     void setAlign(TAlign align);
@@ -74,7 +86,11 @@ public:
     // Stored as an attribute: masks use it for their own flags, so it does
     // not take the control out of keyboard focus.
     bool TabStop() const { return m_tabStop; }
-    void setTabStop(bool tabStop) { m_tabStop = tabStop; }
+    void setTabStop(bool tabStop)
+    {
+        noteChange();
+        m_tabStop = tabStop;
+    }
     // The position among the windowed controls of the same parent, -1 without one.
     // While loading, the wish is kept and applied when loading ends, so the
     // order of reading does not matter (see ControlLayout::endLoading).
@@ -83,7 +99,7 @@ public:
 
     // The caption or text the control shows; empty for kinds without one.
     virtual QString Caption() const { return QString(); }
-    virtual void setCaption(const QString &) {}
+    virtual void setCaption(const QString &) { noteChange(); }
 
     int ComponentState() const { return m_state; }
     bool isLoading() const { return m_state & csLoading; }
@@ -100,6 +116,14 @@ public:
 
     // The part of the control that aligned children share.
     virtual QRect alignClientRect() const { return m_self->rect(); }
+
+    // Counts the changes to what the control streams: its published
+    // attributes, geometry, name, font and contained controls. A change
+    // counts for every control around it as well, since a container's
+    // stream holds its contents. Snapshots reuse a control's bytes while
+    // this stays the same.
+    quint64 revision() const { return m_revision; }
+    void noteChange();
 
 protected:
     // Pushes Color/Transparent and the font colour into the widget; classes
@@ -137,6 +161,7 @@ private:
     bool m_visible = true;
     int m_state = 0;
     int m_loadTabOrder = -1;
+    quint64 m_revision = 0;
 
     template <class> friend class TControlT;
 };
@@ -157,6 +182,7 @@ public:
 
     void setVisible(bool visible) override
     {
+        noteChange();
         m_visible = visible;
         Base::setVisible(visible);
     }

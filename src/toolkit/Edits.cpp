@@ -162,6 +162,7 @@ const TClassInfo &TcxTextEdit::staticClassInfo()
 
 void TcxTextEdit::setText(const QString &text)
 {
+    noteChange();
     m_input->programmatic([&] { QLineEdit::setText(applyCharCase(text, m_input->charCase)); });
 }
 
@@ -172,6 +173,7 @@ int TcxTextEdit::MaxLength() const
 
 void TcxTextEdit::setMaxLength(int length)
 {
+    noteChange();
     m_input->maxLength = qMax(0, length);
 }
 
@@ -182,6 +184,7 @@ TEditCharCase TcxTextEdit::CharCase() const
 
 void TcxTextEdit::setCharCase(TEditCharCase charCase)
 {
+    noteChange();
     m_input->charCase = charCase;
     setText(text());
 }
@@ -240,6 +243,7 @@ QString TcxComboBox::Text() const
 
 void TcxComboBox::setText(const QString &text)
 {
+    noteChange();
     // A value from the list selects its entry, as choosing it would.
     const QString value = applyCharCase(text, m_input->charCase);
     m_input->programmatic([&] {
@@ -259,6 +263,7 @@ QStringList TcxComboBox::Items() const
 
 void TcxComboBox::setItems(const QStringList &items)
 {
+    noteChange();
     // Filling the list would select its first entry; the value stays as it was.
     const QString text = Text();
     const QSignalBlocker blocker(this);
@@ -277,11 +282,13 @@ int TcxComboBox::MaxLength() const
 
 void TcxComboBox::setMaxLength(int length)
 {
+    noteChange();
     m_input->maxLength = qMax(0, length);
 }
 
 void TcxComboBox::setReadOnly(bool readOnly)
 {
+    noteChange();
     m_readOnly = readOnly;
     lineEdit()->setReadOnly(readOnly);
     if (readOnly)
@@ -295,6 +302,7 @@ TEditCharCase TcxComboBox::CharCase() const
 
 void TcxComboBox::setCharCase(TEditCharCase charCase)
 {
+    noteChange();
     m_input->charCase = charCase;
     setText(Text());
 }
@@ -451,6 +459,7 @@ const TClassInfo &TcxMemo::staticClassInfo()
 
 void TcxMemo::setText(const QString &text)
 {
+    noteChange();
     // MaxLength limits the user, not the program.
     m_settingText = true;
     setPlainText(text);
@@ -465,11 +474,13 @@ QStringList TcxMemo::Lines() const
 
 void TcxMemo::setLines(const QStringList &lines)
 {
+    noteChange();
     setText(lines.join(QLatin1Char('\n')));
 }
 
 void TcxMemo::setScrollBars(TScrollStyle scrollBars)
 {
+    noteChange();
     m_scrollBars = scrollBars;
     const bool horizontal = scrollBars == ssHorizontal || scrollBars == ssBoth;
     const bool vertical = scrollBars == ssVertical || scrollBars == ssBoth;
@@ -480,6 +491,7 @@ void TcxMemo::setScrollBars(TScrollStyle scrollBars)
 
 void TcxMemo::setWordWrap(bool wrap)
 {
+    noteChange();
     m_wordWrap = wrap;
     applyWrapping();
 }
@@ -549,6 +561,7 @@ const TClassInfo &TcxDBCheckBox::staticClassInfo()
 
 void TcxDBCheckBox::setAlignment(TAlignment alignment)
 {
+    noteChange();
     m_alignment = alignment;
     // Right to left puts the box at the right edge, the caption before it.
     setLayoutDirection(alignment == taRightJustify ? Qt::RightToLeft : Qt::LeftToRight);

@@ -81,7 +81,11 @@ public:
     const TClassInfo &classInfo() const override { return staticClassInfo(); }
 
     QString Caption() const override { return Text(); }
-    void setCaption(const QString &caption) override { setText(caption); }
+    void setCaption(const QString &caption) override
+    {
+        noteChange();
+        setText(caption);
+    }
 
     QString Text() const { return text(); }
     void setText(const QString &text);
@@ -89,13 +93,21 @@ public:
     int MaxLength() const;
     void setMaxLength(int length);
     bool ReadOnly() const { return isReadOnly(); }
-    void setReadOnly(bool readOnly) { QLineEdit::setReadOnly(readOnly); }
+    void setReadOnly(bool readOnly)
+    {
+        noteChange();
+        QLineEdit::setReadOnly(readOnly);
+    }
     TEditCharCase CharCase() const;
     void setCharCase(TEditCharCase charCase);
     // Entering with the keyboard selects the whole text; off, the text stays
     // unselected and typing adds to it.
     bool AutoSelect() const { return m_autoSelect; }
-    void setAutoSelect(bool autoSelect) { m_autoSelect = autoSelect; }
+    void setAutoSelect(bool autoSelect)
+    {
+        noteChange();
+        m_autoSelect = autoSelect;
+    }
 
 protected:
     static QVector<TPropInfo> textEditProperties();
@@ -117,7 +129,11 @@ public:
     const TClassInfo &classInfo() const override { return staticClassInfo(); }
 
     QString Caption() const override { return Text(); }
-    void setCaption(const QString &caption) override { setText(caption); }
+    void setCaption(const QString &caption) override
+    {
+        noteChange();
+        setText(caption);
+    }
 
     QString Text() const;
     void setText(const QString &text);
@@ -132,7 +148,11 @@ public:
     void setCharCase(TEditCharCase charCase);
     // As the text edit's.
     bool AutoSelect() const { return m_autoSelect; }
-    void setAutoSelect(bool autoSelect) { m_autoSelect = autoSelect; }
+    void setAutoSelect(bool autoSelect)
+    {
+        noteChange();
+        m_autoSelect = autoSelect;
+    }
 
     void showPopup() override;
 
@@ -160,11 +180,23 @@ public:
     const TClassInfo &classInfo() const override { return staticClassInfo(); }
 
     QString DataField() const { return m_dataField; }
-    void setDataField(const QString &field) { m_dataField = field; }
+    void setDataField(const QString &field)
+    {
+        noteChange();
+        m_dataField = field;
+    }
     QString EditMask() const { return m_editMask; }
-    void setEditMask(const QString &mask) { m_editMask = mask; }
+    void setEditMask(const QString &mask)
+    {
+        noteChange();
+        m_editMask = mask;
+    }
     bool PopupSizeable() const { return m_popupSizeable; }
-    void setPopupSizeable(bool sizeable) { m_popupSizeable = sizeable; }
+    void setPopupSizeable(bool sizeable)
+    {
+        noteChange();
+        m_popupSizeable = sizeable;
+    }
 
     // Where the drop-down button sits, in widget coordinates.
     QRect buttonRect() const;
@@ -194,7 +226,11 @@ public:
     const TClassInfo &classInfo() const override { return staticClassInfo(); }
 
     QString Caption() const override { return Text(); }
-    void setCaption(const QString &caption) override { setText(caption); }
+    void setCaption(const QString &caption) override
+    {
+        noteChange();
+        setText(caption);
+    }
 
     QString Text() const { return toPlainText(); }
     void setText(const QString &text);
@@ -205,10 +241,18 @@ public:
     bool WordWrap() const { return m_wordWrap; }
     void setWordWrap(bool wrap);
     bool ReadOnly() const { return isReadOnly(); }
-    void setReadOnly(bool readOnly) { QPlainTextEdit::setReadOnly(readOnly); }
+    void setReadOnly(bool readOnly)
+    {
+        noteChange();
+        QPlainTextEdit::setReadOnly(readOnly);
+    }
     // Limits what the user types or pastes; 0: no limit.
     int MaxLength() const { return m_maxLength; }
-    void setMaxLength(int length) { m_maxLength = qMax(0, length); }
+    void setMaxLength(int length)
+    {
+        noteChange();
+        m_maxLength = qMax(0, length);
+    }
 
 private:
     void applyWrapping();
@@ -232,21 +276,45 @@ public:
     const TClassInfo &classInfo() const override { return staticClassInfo(); }
 
     QString Caption() const override { return text(); }
-    void setCaption(const QString &caption) override { setText(caption); }
+    void setCaption(const QString &caption) override
+    {
+        noteChange();
+        setText(caption);
+    }
 
     QString DataField() const { return m_dataField; }
-    void setDataField(const QString &field) { m_dataField = field; }
+    void setDataField(const QString &field)
+    {
+        noteChange();
+        m_dataField = field;
+    }
     bool Checked() const { return isChecked(); }
-    void setChecked(bool checked) { QCheckBox::setChecked(checked); }
+    void setChecked(bool checked)
+    {
+        noteChange();
+        QCheckBox::setChecked(checked);
+    }
     QString ValueChecked() const { return m_valueChecked; }
-    void setValueChecked(const QString &value) { m_valueChecked = value; }
+    void setValueChecked(const QString &value)
+    {
+        noteChange();
+        m_valueChecked = value;
+    }
     QString ValueUnchecked() const { return m_valueUnchecked; }
-    void setValueUnchecked(const QString &value) { m_valueUnchecked = value; }
+    void setValueUnchecked(const QString &value)
+    {
+        noteChange();
+        m_valueUnchecked = value;
+    }
     // taLeftJustify: the box left of the caption; taRightJustify: right of it.
     TAlignment Alignment() const { return m_alignment; }
     void setAlignment(TAlignment alignment);
     bool ReadOnly() const { return m_readOnly; }
-    void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
+    void setReadOnly(bool readOnly)
+    {
+        noteChange();
+        m_readOnly = readOnly;
+    }
 
 protected:
     // A check box shows its parent's background; only an own colour fills.

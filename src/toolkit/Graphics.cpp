@@ -47,12 +47,14 @@ const TClassInfo &TBevel::staticClassInfo()
 
 void TBevel::setShape(TBevelShape shape)
 {
+    noteChange();
     m_shape = shape;
     update();
 }
 
 void TBevel::setStyle(TBevelStyle style)
 {
+    noteChange();
     m_style = style;
     update();
 }
@@ -136,24 +138,28 @@ const TClassInfo &TShape::staticClassInfo()
 
 void TShape::setShape(TShapeType shape)
 {
+    noteChange();
     m_shape = shape;
     update();
 }
 
 void TShape::setBrushColor(TColor color)
 {
+    noteChange();
     m_brushColor = color;
     update();
 }
 
 void TShape::setPenColor(TColor color)
 {
+    noteChange();
     m_penColor = color;
     update();
 }
 
 void TShape::setPenWidth(int width)
 {
+    noteChange();
     m_penWidth = std::clamp(width, 0, 100);
     update();
 }
@@ -206,6 +212,7 @@ TPictureControl::TPictureControl(QWidget *parent) : TControlT<QWidget>(parent)
 
 void TPictureControl::setFileName(const QString &fileName)
 {
+    noteChange();
     m_fileName = fileName;
     m_image = QImage();
     // Only a regular file of sane size is read: a pipe, a terminal or a
@@ -224,6 +231,7 @@ void TPictureControl::setFileName(const QString &fileName)
 
 void TPictureControl::setStretch(bool stretch)
 {
+    noteChange();
     m_stretch = stretch;
     update();
 }

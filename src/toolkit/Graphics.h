@@ -102,7 +102,11 @@ public:
     const TClassInfo &classInfo() const override { return staticClassInfo(); }
 
     bool AutoSize() const { return Stretch(); }
-    void setAutoSize(bool autoSize) { setStretch(autoSize); }
+    void setAutoSize(bool autoSize)
+    {
+        noteChange();
+        setStretch(autoSize);
+    }
 
 protected:
     bool keepAspect() const override { return true; }

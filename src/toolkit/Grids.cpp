@@ -120,6 +120,7 @@ QStringList TDBGrid::Columns() const
 
 void TDBGrid::setColumns(const QStringList &columns)
 {
+    noteChange();
     setColumnCount(0);
     for (const QString &entry : columns) {
         const ColumnEntry column = parseColumn(entry);
@@ -142,6 +143,7 @@ TFont TDBGrid::TitleFont() const
 
 void TDBGrid::setTitleFont(const TFont &font)
 {
+    noteChange();
     m_titleFont = font;
     applyTitleFont(horizontalHeader(), font);
     updateGeometries();
@@ -170,6 +172,7 @@ void TDBGrid::paintEvent(QPaintEvent *event)
 
 void TDBGrid::setReadOnly(bool readOnly)
 {
+    noteChange();
     m_readOnly = readOnly;
     setEditTriggers(readOnly ? QAbstractItemView::NoEditTriggers
                              : QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
@@ -229,6 +232,7 @@ QStringList TcxDBTreeList::Columns() const
 
 void TcxDBTreeList::setColumns(const QStringList &columns)
 {
+    noteChange();
     QStringList titles;
     QList<int> widths;
     for (const QString &entry : columns) {
@@ -249,6 +253,7 @@ TFont TcxDBTreeList::TitleFont() const
 
 void TcxDBTreeList::setTitleFont(const TFont &font)
 {
+    noteChange();
     m_titleFont = font;
     applyTitleFont(header(), font);
     updateGeometries();
@@ -256,6 +261,7 @@ void TcxDBTreeList::setTitleFont(const TFont &font)
 
 void TcxDBTreeList::setDragDrop(bool dragDrop)
 {
+    noteChange();
     m_dragDrop = dragDrop;
     setDragDropMode(dragDrop ? QAbstractItemView::InternalMove : QAbstractItemView::NoDragDrop);
 }
@@ -347,30 +353,35 @@ const TClassInfo &TStringGrid::staticClassInfo()
 
 void TStringGrid::setColCount(int count)
 {
+    noteChange();
     m_colCount = qMax(1, count);
     QTableWidget::setColumnCount(qMin(m_colCount, kMaxGridLines));
 }
 
 void TStringGrid::setRowCount(int count)
 {
+    noteChange();
     m_rowCount = qMax(1, count);
     QTableWidget::setRowCount(qMin(m_rowCount, kMaxGridLines));
 }
 
 void TStringGrid::setFixedCols(int count)
 {
+    noteChange();
     m_fixedCols = qMax(0, count);
     viewport()->update();
 }
 
 void TStringGrid::setFixedRows(int count)
 {
+    noteChange();
     m_fixedRows = qMax(0, count);
     viewport()->update();
 }
 
 void TStringGrid::setDefaultColWidth(int width)
 {
+    noteChange();
     m_defaultColWidth = std::clamp(width, 0, kMaxColumnWidth);
     // Like the grid it stands for, every column takes the new width.
     horizontalHeader()->setDefaultSectionSize(m_defaultColWidth);
@@ -378,6 +389,7 @@ void TStringGrid::setDefaultColWidth(int width)
 
 void TStringGrid::setDefaultRowHeight(int height)
 {
+    noteChange();
     m_defaultRowHeight = std::clamp(height, 0, kMaxColumnWidth);
     verticalHeader()->setDefaultSectionSize(m_defaultRowHeight);
 }

@@ -28,7 +28,11 @@ public:
     bool ReadOnly() const { return m_readOnly; }
     void setReadOnly(bool readOnly);
     QString DataSource() const { return m_dataSource; }
-    void setDataSource(const QString &source) { m_dataSource = source; }
+    void setDataSource(const QString &source)
+    {
+        noteChange();
+        m_dataSource = source;
+    }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -55,13 +59,29 @@ public:
     TFont TitleFont() const;
     void setTitleFont(const TFont &font);
     QString KeyField() const { return m_keyField; }
-    void setKeyField(const QString &field) { m_keyField = field; }
+    void setKeyField(const QString &field)
+    {
+        noteChange();
+        m_keyField = field;
+    }
     QString ParentField() const { return m_parentField; }
-    void setParentField(const QString &field) { m_parentField = field; }
+    void setParentField(const QString &field)
+    {
+        noteChange();
+        m_parentField = field;
+    }
     QString StateIndexField() const { return m_stateIndexField; }
-    void setStateIndexField(const QString &field) { m_stateIndexField = field; }
+    void setStateIndexField(const QString &field)
+    {
+        noteChange();
+        m_stateIndexField = field;
+    }
     QString ImageIndexField() const { return m_imageIndexField; }
-    void setImageIndexField(const QString &field) { m_imageIndexField = field; }
+    void setImageIndexField(const QString &field)
+    {
+        noteChange();
+        m_imageIndexField = field;
+    }
     // The user may move nodes to other parents by dragging.
     bool DragDrop() const { return m_dragDrop; }
     void setDragDrop(bool dragDrop);

@@ -45,30 +45,35 @@ const TClassInfo &TLabel::staticClassInfo()
 
 void TLabel::setCaption(const QString &caption)
 {
+    noteChange();
     setText(caption);
     adjustBounds();
 }
 
 void TLabel::setAlignment(TAlignment alignment)
 {
+    noteChange();
     m_alignment = alignment;
     applyTextAlignment();
 }
 
 void TLabel::setLayout(TTextLayout layout)
 {
+    noteChange();
     m_layout = layout;
     applyTextAlignment();
 }
 
 void TLabel::setWordWrap(bool wrap)
 {
+    noteChange();
     QLabel::setWordWrap(wrap);
     adjustBounds();
 }
 
 void TLabel::setAutoSize(bool autoSize)
 {
+    noteChange();
     m_autoSize = autoSize;
     adjustBounds();
 }

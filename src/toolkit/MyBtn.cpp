@@ -53,18 +53,21 @@ const TClassInfo &TMaskBtn::staticClassInfo()
 
 void TMaskBtn::setLayout(TButtonLayout layout)
 {
+    noteChange();
     m_layout = layout;
     update();
 }
 
 void TMaskBtn::setMargin(int margin)
 {
+    noteChange();
     m_margin = std::clamp(margin, -1, 255);
     update();
 }
 
 void TMaskBtn::setNormalTextColor(TColor color)
 {
+    noteChange();
     m_normalText = color;
     applyFontColor();
 }

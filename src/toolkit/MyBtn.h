@@ -18,7 +18,11 @@ public:
     const TClassInfo &classInfo() const override { return staticClassInfo(); }
 
     QString Caption() const override { return text(); }
-    void setCaption(const QString &caption) override { setText(caption); }
+    void setCaption(const QString &caption) override
+    {
+        noteChange();
+        setText(caption);
+    }
 
     TButtonLayout Layout() const { return m_layout; }
     void setLayout(TButtonLayout layout);
@@ -30,32 +34,84 @@ public:
     void setNormalTextColor(TColor color);
 
     QString ZuweisMaske() const { return m_zuweisMaske; }
-    void setZuweisMaske(const QString &v) { m_zuweisMaske = v; }
+    void setZuweisMaske(const QString &v)
+    {
+        noteChange();
+        m_zuweisMaske = v;
+    }
     QString ZuweisFeld() const { return m_zuweisFeld; }
-    void setZuweisFeld(const QString &v) { m_zuweisFeld = v; }
+    void setZuweisFeld(const QString &v)
+    {
+        noteChange();
+        m_zuweisFeld = v;
+    }
     QString ZuweisFeldEx() const { return m_zuweisFeldEx; }
-    void setZuweisFeldEx(const QString &v) { m_zuweisFeldEx = v; }
+    void setZuweisFeldEx(const QString &v)
+    {
+        noteChange();
+        m_zuweisFeldEx = v;
+    }
     QString IndexFeld() const { return m_indexFeld; }
-    void setIndexFeld(const QString &v) { m_indexFeld = v; }
+    void setIndexFeld(const QString &v)
+    {
+        noteChange();
+        m_indexFeld = v;
+    }
     QString ProgExt() const { return m_progExt; }
-    void setProgExt(const QString &v) { m_progExt = v; }
+    void setProgExt(const QString &v)
+    {
+        noteChange();
+        m_progExt = v;
+    }
     QString SectionExt() const { return m_sectionExt; }
-    void setSectionExt(const QString &v) { m_sectionExt = v; }
+    void setSectionExt(const QString &v)
+    {
+        noteChange();
+        m_sectionExt = v;
+    }
     // Run-time state of the application that runs the mask; never stored.
     qint32 FoundMask() const { return m_foundMask; }
-    void setFoundMask(qint32 v) { m_foundMask = v; }
+    void setFoundMask(qint32 v)
+    {
+        noteChange();
+        m_foundMask = v;
+    }
     qint32 Language() const { return m_language; }
-    void setLanguage(qint32 v) { m_language = v; }
+    void setLanguage(qint32 v)
+    {
+        noteChange();
+        m_language = v;
+    }
     bool RunAs() const { return m_runAs; }
-    void setRunAs(bool v) { m_runAs = v; }
+    void setRunAs(bool v)
+    {
+        noteChange();
+        m_runAs = v;
+    }
     QString RegelFeld() const { return m_regelFeld; }
-    void setRegelFeld(const QString &v) { m_regelFeld = v; }
+    void setRegelFeld(const QString &v)
+    {
+        noteChange();
+        m_regelFeld = v;
+    }
     QString RegelAusdruck() const { return m_regelAusdruck; }
-    void setRegelAusdruck(const QString &v) { m_regelAusdruck = v; }
+    void setRegelAusdruck(const QString &v)
+    {
+        noteChange();
+        m_regelAusdruck = v;
+    }
     QString RegelFarbe() const { return m_regelFarbe; }
-    void setRegelFarbe(const QString &v) { m_regelFarbe = v; }
+    void setRegelFarbe(const QString &v)
+    {
+        noteChange();
+        m_regelFarbe = v;
+    }
     bool RegelZeile() const { return m_regelZeile; }
-    void setRegelZeile(bool v) { m_regelZeile = v; }
+    void setRegelZeile(bool v)
+    {
+        noteChange();
+        m_regelZeile = v;
+    }
 
 protected:
     void applyFontColor() override;
@@ -93,11 +149,23 @@ public:
     const TClassInfo &classInfo() const override { return staticClassInfo(); }
 
     QString DataField() const { return m_dataField; }
-    void setDataField(const QString &v) { m_dataField = v; }
+    void setDataField(const QString &v)
+    {
+        noteChange();
+        m_dataField = v;
+    }
     QString DataSource() const { return m_dataSource; }
-    void setDataSource(const QString &v) { m_dataSource = v; }
+    void setDataSource(const QString &v)
+    {
+        noteChange();
+        m_dataSource = v;
+    }
     bool BrowserEdit() const { return m_browserEdit; }
-    void setBrowserEdit(bool v) { m_browserEdit = v; }
+    void setBrowserEdit(bool v)
+    {
+        noteChange();
+        m_browserEdit = v;
+    }
 
 private:
     QString m_dataField;

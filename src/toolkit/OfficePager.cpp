@@ -61,6 +61,7 @@ TAdvOfficePager::TAdvOfficePager(QWidget *parent)
 
 void TAdvOfficePager::setOfficeStyle(int style)
 {
+    noteChange();
     if (style == m_officeStyle)
         return;
     m_officeStyle = style;
@@ -132,11 +133,13 @@ TAdvOfficePage *TAdvOfficePager::ActivePage() const
 
 void TAdvOfficePager::setActivePage(TAdvOfficePage *page)
 {
+    noteChange();
     setActivePageIndex(indexOfPage(page));
 }
 
 void TAdvOfficePager::setActivePageIndex(int index)
 {
+    noteChange();
     if (index < 0 || index >= m_pages.size())
         return;
     const bool changed = index != m_activeIndex;
@@ -150,6 +153,7 @@ void TAdvOfficePager::setActivePageIndex(int index)
 
 void TAdvOfficePager::setTabPosition(TTabPosition position)
 {
+    noteChange();
     m_tabPosition = position;
     static const QTabBar::Shape shapes[] = {QTabBar::RoundedNorth, QTabBar::RoundedSouth, QTabBar::RoundedWest,
                                             QTabBar::RoundedEast};
@@ -346,6 +350,7 @@ const TClassInfo &TAdvOfficePage::staticClassInfo()
 
 void TAdvOfficePage::setCaption(const QString &caption)
 {
+    noteChange();
     m_caption = caption;
     if (m_pager)
         m_pager->pageCaptionChanged(this);
@@ -358,6 +363,7 @@ int TAdvOfficePage::PageIndex() const
 
 void TAdvOfficePage::setPageIndex(int index)
 {
+    noteChange();
     if (m_pager)
         m_pager->movePage(this, index);
 }
