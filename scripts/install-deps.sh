@@ -10,7 +10,7 @@ packages=(
     fonts-dejavu-core fonts-liberation2 qt6-tools-dev libqt6opengl6-dev
     qt6-l10n-tools qt6-translations-l10n
     dpkg-dev librsvg2-bin desktop-file-utils appstream shared-mime-info
-    libsqlite3-dev postgresql
+    libsqlite3-dev zlib1g-dev postgresql
     clang
 )
 

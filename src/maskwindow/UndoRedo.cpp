@@ -4,6 +4,8 @@
 #include <QSet>
 #include <QtEndian>
 
+#include <zlib.h>
+
 #include "Components.h"
 #include "Control.h"
 #include "FormDesigner.h"
@@ -52,6 +54,48 @@ namespace {
 constexpr uint kPieceEnd = 16;
 // Nor does a piece grow past this many controls.
 constexpr int kMaxControlsPerPiece = 64;
+
+// qCompress in the form qUncompress reads (the plain size, big-endian, then
+// a zlib stream), through one deflate state for the whole history: setting
+// a state up and freeing it took longer than compressing a piece.
+class TPieceCompressor
+{
+public:
+    TPieceCompressor() { m_ready = deflateInit(&m_z, 1) == Z_OK; }
+    ~TPieceCompressor()
+    {
+        if (m_ready)
+            deflateEnd(&m_z);
+    }
+    TPieceCompressor(const TPieceCompressor &) = delete;
+    TPieceCompressor &operator=(const TPieceCompressor &) = delete;
+
+    QByteArray compress(const QByteArray &plain)
+    {
+        if (!m_ready || deflateReset(&m_z) != Z_OK)
+            return qCompress(plain, 1);
+        QByteArray out(4 + qsizetype(deflateBound(&m_z, uLong(plain.size()))), Qt::Uninitialized);
+        qToBigEndian(quint32(plain.size()), out.data());
+        m_z.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(plain.constData()));
+        m_z.avail_in = uInt(plain.size());
+        m_z.next_out = reinterpret_cast<Bytef *>(out.data() + 4);
+        m_z.avail_out = uInt(out.size() - 4);
+        if (deflate(&m_z, Z_FINISH) != Z_STREAM_END)
+            return qCompress(plain, 1);
+        out.truncate(4 + qsizetype(m_z.total_out));
+        return out;
+    }
+
+private:
+    z_stream m_z{};
+    bool m_ready = false;
+};
+
+TPieceCompressor &compressor()
+{
+    static TPieceCompressor one;
+    return one;
+}
 } // namespace
 
 void TUndoStream::SaveUndo(TCustomFormDesigner *designer)
@@ -65,7 +109,7 @@ void TUndoStream::SaveUndo(TCustomFormDesigner *designer)
         QByteArray stored = m_lastPieces.value(piece);
         if (stored.isNull()) {
             // The stream's property names repeat from control to control.
-            stored = qCompress(piece, 1);
+            stored = compressor().compress(piece);
             stored.squeeze();
         }
         snapshot.pieces.append(stored);

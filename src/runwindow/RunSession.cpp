@@ -70,6 +70,9 @@ TRunSession::TRunSession(TMaskDocument *document, QWidget *dialogParent)
     , m_dialogParent(dialogParent)
 {
     setObjectName(QLatin1String(kSessionName));
+    // Looking the session up among the document's children would walk every
+    // control; the designer asks for it on each selection.
+    document->setProperty(kSessionName, QVariant::fromValue<QObject *>(this));
     m_table.Macros.AskForNumber = [this](const QString &file) {
         return UserDialogs::instance().messageDlg(m_dialogParent,
                                                   tr("Soll eine neue Nummer aus „%1“ vergeben werden?").arg(file),
@@ -110,12 +113,13 @@ TRunSession::~TRunSession()
     if (m_bound)
         restoreDesign();
     delete m_navigator;
+    if (m_document)
+        m_document->setProperty(kSessionName, QVariant());
 }
 
 TRunSession *TRunSession::of(const TMaskDocument *document)
 {
-    return document ? document->findChild<TRunSession *>(QLatin1String(kSessionName), Qt::FindDirectChildrenOnly)
-                    : nullptr;
+    return document ? qobject_cast<TRunSession *>(document->property(kSessionName).value<QObject *>()) : nullptr;
 }
 
 void TRunSession::snapshotDesign()
