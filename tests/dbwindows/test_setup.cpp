@@ -30,19 +30,6 @@ using namespace Colors;
 using namespace DbWindowsTest;
 
 namespace {
-// Also records the colour the window presets in the colour dialog.
-class RecordingDialogs : public ScriptedDialogs
-{
-public:
-    QList<TColor> colorPresets;
-
-    std::optional<TColor> colorDialog(QWidget *parent, TColor initial) override
-    {
-        colorPresets << initial;
-        return ScriptedDialogs::colorDialog(parent, initial);
-    }
-};
-
 const QString kSection = QStringLiteral("Configuration");
 
 // Every key of the section, in the order the program has always written them.
@@ -107,7 +94,7 @@ private Q_SLOTS:
 
     void startsWithDefaultsWithoutAnySettings()
     {
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         QVERIFY(child<QRadioButton>(&w, "DBLocal")->isChecked());
         QCOMPARE(child<QLineEdit>(&w, "DBPfad")->text(), AppPaths::baseFolder() + "DB" + QDir::separator());
@@ -128,7 +115,7 @@ private Q_SLOTS:
                        {"NXAlias", "Kunden"},
                        {"LoginName", "anna"},
                        {"LoginPass", "geheim"}});
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         // Mode, server and alias are compared with the batch tool's reading
         // below; here the login, which the settings file overrides there.
@@ -164,7 +151,7 @@ private Q_SLOTS:
         QFETCH(QString, missingValue);
         writeRegistry(registry);
         writeIni(QStringLiteral("[Configuration]\r\nGridStep=20\r\nLoginName=bert\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         QCOMPARE(dialogs.messages.size(), 1);
         QCOMPARE(dialogs.messages.first().type, mtError);
@@ -180,7 +167,7 @@ private Q_SLOTS:
     {
         writeRegistry({{"Installdir", "/opt/q"}, {"NXProtocol", 2}, {"NXConnection", true}, {"NXServer", "nexus01"}});
         writeIni(QStringLiteral("[Configuration]\r\nDBConnect=1\r\nServer_Protocol=1\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         QVERIFY(child<QRadioButton>(&w, "DBLocal")->isChecked());
         QVERIFY(!child<QRadioButton>(&w, "DBServer")->isChecked());
@@ -197,7 +184,7 @@ private Q_SLOTS:
                        {"NXAlias", "Firma"}, {"LoginName", "reg"}});
         writeIni(QStringLiteral("[Configuration]\r\nDatenbankPfad=/srv/db\r\nLoginName=anna\r\n"
                                 "ScanHosts=db1, /run/pg\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         const TConnectionSettings shown = w.ConnectionSettings();
         const TConnectionSettings read = TConnectionSettings::load(m_iniPath);
@@ -216,7 +203,7 @@ private Q_SLOTS:
     {
         writeIni(QStringLiteral("[Configuration]\r\nUserlogin=alt\r\nUserpasswort=altpw\r\n"
                                 "LoginName=neu\r\nLoginPass=neupw\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         QCOMPARE(child<QLineEdit>(&w, "Userlogin")->text(), QStringLiteral("neu"));
         QCOMPARE(child<QLineEdit>(&w, "Userpass")->text(), QStringLiteral("neupw"));
@@ -234,7 +221,7 @@ private Q_SLOTS:
     {
         writeIni(QStringLiteral("[Configuration]\r\nGridColor=Fliederlila\r\nDesignerColor=$00FF0000\r\n"
                                 "GrapSize=500\r\nGridStep=abc\r\nDisplayGrip=0\r\nNFillColor=clRed\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         QCOMPARE(w.GridColor(), clBlack);
         QCOMPARE(w.DesignerColor(), clBlue);
@@ -251,7 +238,7 @@ private Q_SLOTS:
         const QByteArray before = readFileBytes(m_iniPath);
         QWidget form;
         TFormDesigner main(&form);
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         w.mainDesigner = [&main] { return &main; };
         showAndWait(&w);
@@ -280,7 +267,7 @@ private Q_SLOTS:
                                 "GrapSize=7\r\nGridStep=12\r\nGridColor=clRed\r\nDesignerColor=clWhite\r\n"
                                 "MFillColor=clLime\r\nMBorderColor=clNavy\r\nLFillColor=clTeal\r\n"
                                 "LBorderColor=clMaroon\r\nNFillColor=clYellow\r\nNBorderColor=clAqua\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         QWidget form;
         TFormDesigner d(&form);
@@ -304,7 +291,7 @@ private Q_SLOTS:
     {
         QWidget form;
         TFormDesigner main(&form);
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         w.mainDesigner = [&main] { return &main; };
         showAndWait(&w);
@@ -348,7 +335,7 @@ private Q_SLOTS:
     void okKeepsTheRestOfTheFile()
     {
         writeIni(QStringLiteral("[Fenster]\r\nLinks=10\r\n[Configuration]\r\nGridStep=8\r\nEigen=ja\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         showAndWait(&w);
         QTest::mouseClick(child<QPushButton>(&w, "btnOk"), Qt::LeftButton);
@@ -362,7 +349,7 @@ private Q_SLOTS:
     {
         m_iniPath = m_dir->filePath(QStringLiteral("fehlt/ferolith.ini"));
         AppPaths::setSettingsFileOverride(m_iniPath);
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         showAndWait(&w);
         QTest::mouseClick(child<QPushButton>(&w, "btnOk"), Qt::LeftButton);
@@ -375,7 +362,7 @@ private Q_SLOTS:
 
     void connectionModeSwitchesServerControls()
     {
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         showAndWait(&w);
         auto *scanAlias = child<QPushButton>(&w, "ScanAlias");
@@ -413,7 +400,7 @@ private Q_SLOTS:
         QVERIFY2(server.start(&error), qPrintable(error));
         const QString address = QStringLiteral("127.0.0.1:%1").arg(server.port());
         writeIni(QStringLiteral("[Configuration]\r\nDBConnect=0\r\nScanHosts=%1\r\n").arg(address));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         showAndWait(&w);
         auto *names = child<QComboBox>(&w, "DBServerName");
@@ -438,7 +425,7 @@ private Q_SLOTS:
         active.setMultiGrabFill(clRed);
         active.setDesignerColor(clWindow);
         TFormDesigner *current = nullptr;
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         w.activeDesigner = [&current] { return current; };
         showAndWait(&w);
@@ -449,14 +436,14 @@ private Q_SLOTS:
         QCOMPARE(dialogs.messages.size(), 1);
         QCOMPARE(dialogs.messages.first().text, QStringLiteral("Es ist keine Maske geöffnet."));
         QCOMPARE(dialogs.messages.first().type, mtInformation);
-        QVERIFY(dialogs.colorPresets.isEmpty());
+        QVERIFY(dialogs.colorInitials.isEmpty());
         QCOMPARE(w.GridColor(), clBlack);
 
         current = &active;
         dialogs.colorAnswers << std::optional<TColor>(clBlue) << std::nullopt;
         QTest::mouseClick(child<QToolButton>(&w, "btnMFill"), Qt::LeftButton);
         QTest::mouseClick(child<QToolButton>(&w, "btnDesignerColor"), Qt::LeftButton);
-        QCOMPARE(dialogs.colorPresets, QList<TColor>({clRed, clWindow}));
+        QCOMPARE(dialogs.colorInitials, QList<TColor>({clRed, clWindow}));
         QCOMPARE(w.MFillColor(), clBlue);
         QCOMPARE(child<QFrame>(&w, "pnlMFill")->palette().color(QPalette::Window), QColor(Qt::blue));
         QCOMPARE(w.DesignerColor(), clBtnFace); // the dialog was cancelled
@@ -466,7 +453,7 @@ private Q_SLOTS:
 
     void browsingSetsTheDatabasePath()
     {
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         showAndWait(&w);
         dialogs.directoryAnswers << m_dir->path();
@@ -476,7 +463,7 @@ private Q_SLOTS:
 
     void focusStartsOnTheDesignerColourButton()
     {
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         showAndWait(&w);
         w.activateWindow();

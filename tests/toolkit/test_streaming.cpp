@@ -218,23 +218,10 @@ void TestStreaming::childrenKeepStructureOrderAndTabOrder()
         QCOMPARE(created.size(), 6);
         QCOMPARE(created.first(), copy);
 
-        QList<QWidget *> children;
-        for (QObject *o : copy->children())
-            if (TControl::from(o))
-                children << static_cast<QWidget *>(o);
-        QCOMPARE(children.size(), 4);
-        QCOMPARE(children.at(0)->objectName(), QStringLiteral("Label1"));
-        QCOMPARE(children.at(1)->objectName(), QStringLiteral("Button1"));
-        QCOMPARE(children.at(2)->objectName(), QStringLiteral("Inner"));
-        QCOMPARE(children.at(3)->objectName(), QStringLiteral("Button2"));
-        QCOMPARE(qobject_cast<TLabel *>(children.at(0))->Caption(), QStringLiteral("Kunde:"));
-        QCOMPARE(children.at(1)->geometry(), QRect(100, 150, 75, 25));
-        QCOMPARE(children.at(2)->geometry(), QRect(5, 40, 200, 90));
-        auto *editCopy = qobject_cast<TcxTextEdit *>(Components::findComponent(&target, QStringLiteral("Edit1")));
-        QVERIFY(editCopy);
-        QCOMPARE(editCopy->parentWidget(), children.at(2));
-        QCOMPARE(editCopy->geometry(), QRect(3, 4, 120, 21));
-        QCOMPARE(ControlLayout::tabList(copy), (QList<QWidget *>{children.at(3), children.at(2), children.at(1)}));
+        // Children, their order, tab order and every property as written.
+        QCOMPARE(componentToBytes(copy, format), componentToBytes(panel, format));
+        QCOMPARE(Components::findComponent(&target, QStringLiteral("Edit1"))->parent()->objectName(),
+                 QStringLiteral("Inner"));
         for (QWidget *w : std::as_const(created))
             QVERIFY2(w->isVisible(), qPrintable(w->objectName()));
     }
@@ -278,12 +265,7 @@ void TestStreaming::pagerKeepsPageOrderAndActivePage()
         QCOMPARE(copy->tabBar()->currentIndex(), 1);
         QVERIFY(!copy->Pages(1)->isHidden());
         QVERIFY(copy->Pages(0)->isHidden());
-        auto *street = qobject_cast<TLabel *>(Components::findComponent(&target, QStringLiteral("Street")));
-        QVERIFY(street);
-        QCOMPARE(street->parentWidget(), copy->Pages(1));
-        QCOMPARE(street->Caption(), QStringLiteral("Straße"));
-        QCOMPARE(Components::findComponent(&target, QStringLiteral("StreetEdit"))->parent(), copy->Pages(1));
-        // The copy writes as the original did.
+        // The copy writes as the original did, the controls on the pages included.
         QCOMPARE(componentToBytes(copy, format), componentToBytes(pager, format));
     }
 }
