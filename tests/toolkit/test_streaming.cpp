@@ -440,12 +440,23 @@ void TestStreaming::damagedInputIsRejectedCleanly()
 {
     QWidget owner;
     QString error;
-    // Neither signature; random, mutated and cut streams are the fuzz targets' job.
+    // Neither signature; random and mutated streams are the fuzz targets' job.
     QVERIFY(!readBytes("<xml/>", &owner, &owner, &error));
     QVERIFY(!error.isEmpty());
     QVERIFY(binaryToText("TPF", &error).isEmpty());
     QVERIFY(textToBinary("object A: TLabel\n  Left = \nend\n", &error).isEmpty());
     QVERIFY(!error.isEmpty());
+
+    // Every truncation is refused (the fuzz targets would take a cut stream
+    // as fine); only the text form's final line break may go missing.
+    auto *label = new TLabel(&owner);
+    label->setCaption(QStringLiteral("Straße €"));
+    for (TStreamFormat format : {TStreamFormat::Binary, TStreamFormat::Text}) {
+        const QByteArray full = componentToBytes(label, format);
+        for (qsizetype cut = format == TStreamFormat::Text ? 2 : 1; cut <= full.size(); ++cut)
+            QVERIFY2(!readBytes(full.chopped(cut), &owner, &owner, &error), qPrintable(QString::number(cut)));
+    }
+    delete label;
 
     // Nesting beyond the limit: objects and lists, binary and text.
     const QByteArray head("TPF0\x06TLabel\x01" "A\x07" "Caption", 21);
