@@ -24,23 +24,12 @@
 #include "SetupDialog.h"
 #include "GuiSteps.h"
 #include "TestSupport.h"
+#include "helper_dbwindows.h"
 
 using namespace Colors;
+using namespace DbWindowsTest;
 
 namespace {
-// Also records the colour the window presets in the colour dialog.
-class RecordingDialogs : public ScriptedDialogs
-{
-public:
-    QList<TColor> colorPresets;
-
-    std::optional<TColor> colorDialog(QWidget *parent, TColor initial) override
-    {
-        colorPresets << initial;
-        return ScriptedDialogs::colorDialog(parent, initial);
-    }
-};
-
 const QString kSection = QStringLiteral("Configuration");
 
 // Every key of the section, in the order the program has always written them.
@@ -65,14 +54,6 @@ private:
     QString m_iniPath;
     QString m_registryPath;
 
-    template <class T>
-    static T *child(const TfrmSetup &w, const char *name)
-    {
-        T *c = w.findChild<T *>(QLatin1String(name));
-        if (!c)
-            qFatal("no child %s", name);
-        return c;
-    }
     void writeRegistry(const QVariantMap &values)
     {
         QSettings store(m_registryPath, QSettings::IniFormat);
@@ -83,18 +64,13 @@ private:
     {
         QVERIFY(writeFileBytes(m_iniPath, text.toLatin1()));
     }
-    static void showAndWait(TfrmSetup &w)
-    {
-        w.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&w));
-    }
     // The widgets the connection mode switches on and off.
     static QList<QWidget *> serverControls(const TfrmSetup &w)
     {
         QList<QWidget *> list;
         for (const char *name : {"LoginLabel", "Userlogin", "PwLabel", "Userpass", "ServerProtokol",
                                  "ServerNameLabel", "DBServerName", "DBAliasLabel", "DBAlias", "ServerScanBtn"})
-            list << child<QWidget>(w, name);
+            list << child<QWidget>(&w, name);
         return list;
     }
 
@@ -118,13 +94,13 @@ private Q_SLOTS:
 
     void startsWithDefaultsWithoutAnySettings()
     {
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
-        QVERIFY(child<QRadioButton>(w, "DBLocal")->isChecked());
-        QCOMPARE(child<QLineEdit>(w, "DBPfad")->text(), AppPaths::baseFolder() + "DB" + QDir::separator());
-        QCOMPARE(child<QLineEdit>(w, "edtGridStep")->text(), QStringLiteral("8"));
+        QVERIFY(child<QRadioButton>(&w, "DBLocal")->isChecked());
+        QCOMPARE(child<QLineEdit>(&w, "DBPfad")->text(), AppPaths::baseFolder() + "DB" + QDir::separator());
+        QCOMPARE(child<QLineEdit>(&w, "edtGridStep")->text(), QStringLiteral("8"));
         QCOMPARE(w.DesignerColor(), clBtnFace); // symbolic, not resolved to a grey
-        QVERIFY(!child<QWidget>(w, "DBServerName")->isEnabled());
+        QVERIFY(!child<QWidget>(&w, "DBServerName")->isEnabled());
         QVERIFY(dialogs.messages.isEmpty());
         QVERIFY(!QFile::exists(m_iniPath)); // reading creates nothing
     }
@@ -139,24 +115,24 @@ private Q_SLOTS:
                        {"NXAlias", "Kunden"},
                        {"LoginName", "anna"},
                        {"LoginPass", "geheim"}});
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         // Mode, server and alias are compared with the batch tool's reading
         // below; here the login, which the settings file overrides there.
-        QCOMPARE(child<QLineEdit>(w, "Userlogin")->text(), QStringLiteral("anna"));
-        QCOMPARE(child<QLineEdit>(w, "Userpass")->text(), QStringLiteral("geheim"));
+        QCOMPARE(child<QLineEdit>(&w, "Userlogin")->text(), QStringLiteral("anna"));
+        QCOMPARE(child<QLineEdit>(&w, "Userpass")->text(), QStringLiteral("geheim"));
         for (QWidget *c : serverControls(w))
             QVERIFY2(c->isEnabled(), qPrintable(c->objectName()));
-        QVERIFY(child<QPushButton>(w, "ScanAlias")->isEnabled());
+        QVERIFY(child<QPushButton>(&w, "ScanAlias")->isEnabled());
         QVERIFY(dialogs.messages.isEmpty());
 
         // Without an installation folder the rest of the registry is ignored.
         QSettings(m_registryPath, QSettings::IniFormat).remove(QStringLiteral("Installdir"));
         TfrmSetup plain;
-        QVERIFY(child<QRadioButton>(plain, "DBLocal")->isChecked());
+        QVERIFY(child<QRadioButton>(&plain, "DBLocal")->isChecked());
         QCOMPARE(plain.ServerProtokolIndex(), 0);
-        QVERIFY(child<QComboBox>(plain, "DBServerName")->currentText().isEmpty());
-        QVERIFY(child<QLineEdit>(plain, "Userlogin")->text().isEmpty());
+        QVERIFY(child<QComboBox>(&plain, "DBServerName")->currentText().isEmpty());
+        QVERIFY(child<QLineEdit>(&plain, "Userlogin")->text().isEmpty());
         QVERIFY(dialogs.messages.isEmpty());
     }
 
@@ -175,7 +151,7 @@ private Q_SLOTS:
         QFETCH(QString, missingValue);
         writeRegistry(registry);
         writeIni(QStringLiteral("[Configuration]\r\nGridStep=20\r\nLoginName=bert\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         QCOMPARE(dialogs.messages.size(), 1);
         QCOMPARE(dialogs.messages.first().type, mtError);
@@ -183,22 +159,22 @@ private Q_SLOTS:
                  qPrintable(dialogs.messages.first().text));
         QVERIFY(dialogs.messages.first().text.contains(missingValue));
         QCOMPARE(w.InstallDir(), QStringLiteral("/opt/q")); // read before the failure
-        QCOMPARE(child<QSpinBox>(w, "udnGridStep")->value(), 8);
-        QVERIFY(child<QLineEdit>(w, "Userlogin")->text().isEmpty());
+        QCOMPARE(child<QSpinBox>(&w, "udnGridStep")->value(), 8);
+        QVERIFY(child<QLineEdit>(&w, "Userlogin")->text().isEmpty());
     }
 
     void settingsFileWinsOverRegistry()
     {
         writeRegistry({{"Installdir", "/opt/q"}, {"NXProtocol", 2}, {"NXConnection", true}, {"NXServer", "nexus01"}});
         writeIni(QStringLiteral("[Configuration]\r\nDBConnect=1\r\nServer_Protocol=1\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
-        QVERIFY(child<QRadioButton>(w, "DBLocal")->isChecked());
-        QVERIFY(!child<QRadioButton>(w, "DBServer")->isChecked());
+        QVERIFY(child<QRadioButton>(&w, "DBLocal")->isChecked());
+        QVERIFY(!child<QRadioButton>(&w, "DBServer")->isChecked());
         QCOMPARE(w.ServerProtokolIndex(), 1);
-        QCOMPARE(child<QComboBox>(w, "DBServerName")->currentText(), QStringLiteral("nexus01"));
-        QVERIFY(!child<QComboBox>(w, "DBServerName")->isEnabled());
-        QVERIFY(!child<QPushButton>(w, "ScanAlias")->isEnabled());
+        QCOMPARE(child<QComboBox>(&w, "DBServerName")->currentText(), QStringLiteral("nexus01"));
+        QVERIFY(!child<QComboBox>(&w, "DBServerName")->isEnabled());
+        QVERIFY(!child<QPushButton>(&w, "ScanAlias")->isEnabled());
     }
 
     void windowAndBatchToolReadTheSameConnection()
@@ -208,7 +184,7 @@ private Q_SLOTS:
                        {"NXAlias", "Firma"}, {"LoginName", "reg"}});
         writeIni(QStringLiteral("[Configuration]\r\nDatenbankPfad=/srv/db\r\nLoginName=anna\r\n"
                                 "ScanHosts=db1, /run/pg\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         const TConnectionSettings shown = w.ConnectionSettings();
         const TConnectionSettings read = TConnectionSettings::load(m_iniPath);
@@ -227,12 +203,12 @@ private Q_SLOTS:
     {
         writeIni(QStringLiteral("[Configuration]\r\nUserlogin=alt\r\nUserpasswort=altpw\r\n"
                                 "LoginName=neu\r\nLoginPass=neupw\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
-        QCOMPARE(child<QLineEdit>(w, "Userlogin")->text(), QStringLiteral("neu"));
-        QCOMPARE(child<QLineEdit>(w, "Userpass")->text(), QStringLiteral("neupw"));
-        showAndWait(w);
-        QTest::mouseClick(child<QPushButton>(w, "btnOk"), Qt::LeftButton);
+        QCOMPARE(child<QLineEdit>(&w, "Userlogin")->text(), QStringLiteral("neu"));
+        QCOMPARE(child<QLineEdit>(&w, "Userpass")->text(), QStringLiteral("neupw"));
+        showAndWait(&w);
+        QTest::mouseClick(child<QPushButton>(&w, "btnOk"), Qt::LeftButton);
         QCOMPARE(w.result(), int(QDialog::Accepted));
         const TMemIniFile ini(m_iniPath);
         QCOMPARE(ini.readString(kSection, "Userlogin", QString()), QStringLiteral("neu"));
@@ -245,14 +221,14 @@ private Q_SLOTS:
     {
         writeIni(QStringLiteral("[Configuration]\r\nGridColor=Fliederlila\r\nDesignerColor=$00FF0000\r\n"
                                 "GrapSize=500\r\nGridStep=abc\r\nDisplayGrip=0\r\nNFillColor=clRed\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         QCOMPARE(w.GridColor(), clBlack);
         QCOMPARE(w.DesignerColor(), clBlue);
         QCOMPARE(w.NFillColor(), clRed);
-        QCOMPARE(child<QSpinBox>(w, "udnGrabSize")->value(), 128);
-        QCOMPARE(child<QSpinBox>(w, "udnGridStep")->value(), 8);
-        QVERIFY(!child<QCheckBox>(w, "chbDisplayGrid")->isChecked());
+        QCOMPARE(child<QSpinBox>(&w, "udnGrabSize")->value(), 128);
+        QCOMPARE(child<QSpinBox>(&w, "udnGridStep")->value(), 8);
+        QVERIFY(!child<QCheckBox>(&w, "chbDisplayGrid")->isChecked());
         QVERIFY(dialogs.messages.isEmpty());
     }
 
@@ -262,16 +238,16 @@ private Q_SLOTS:
         const QByteArray before = readFileBytes(m_iniPath);
         QWidget form;
         TFormDesigner main(&form);
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         w.mainDesigner = [&main] { return &main; };
-        showAndWait(w);
-        auto *step = child<QSpinBox>(w, "udnGridStep");
+        showAndWait(&w);
+        auto *step = child<QSpinBox>(&w, "udnGridStep");
         step->setFocus();
         QTest::keyClick(step, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(step, QStringLiteral("16"));
-        GuiSteps::clickCheck(child<QCheckBox>(w, "chbSnapToGrid"));
-        QTest::mouseClick(child<QPushButton>(w, "btnCancel"), Qt::LeftButton);
+        GuiSteps::clickCheck(child<QCheckBox>(&w, "chbSnapToGrid"));
+        QTest::mouseClick(child<QPushButton>(&w, "btnCancel"), Qt::LeftButton);
         QCOMPARE(w.result(), int(QDialog::Rejected));
         QVERIFY(!w.isVisible());
         QCOMPARE(readFileBytes(m_iniPath), before);
@@ -291,7 +267,7 @@ private Q_SLOTS:
                                 "GrapSize=7\r\nGridStep=12\r\nGridColor=clRed\r\nDesignerColor=clWhite\r\n"
                                 "MFillColor=clLime\r\nMBorderColor=clNavy\r\nLFillColor=clTeal\r\n"
                                 "LBorderColor=clMaroon\r\nNFillColor=clYellow\r\nNBorderColor=clAqua\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         QWidget form;
         TFormDesigner d(&form);
@@ -315,18 +291,18 @@ private Q_SLOTS:
     {
         QWidget form;
         TFormDesigner main(&form);
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         w.mainDesigner = [&main] { return &main; };
-        showAndWait(w);
-        GuiSteps::clickCheck(child<QCheckBox>(w, "chbDisplayGrid"));
-        QTest::mouseClick(child<QRadioButton>(w, "DBServer"), Qt::LeftButton);
-        QTest::mouseClick(child<QRadioButton>(w, "ServerProtokol_2"), Qt::LeftButton);
-        auto *grab = child<QSpinBox>(w, "udnGrabSize");
+        showAndWait(&w);
+        GuiSteps::clickCheck(child<QCheckBox>(&w, "chbDisplayGrid"));
+        QTest::mouseClick(child<QRadioButton>(&w, "DBServer"), Qt::LeftButton);
+        QTest::mouseClick(child<QRadioButton>(&w, "ServerProtokol_2"), Qt::LeftButton);
+        auto *grab = child<QSpinBox>(&w, "udnGrabSize");
         grab->setFocus();
         QTest::keyClick(grab, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(grab, QStringLiteral("9"));
-        QTest::mouseClick(child<QPushButton>(w, "btnOk"), Qt::LeftButton);
+        QTest::mouseClick(child<QPushButton>(&w, "btnOk"), Qt::LeftButton);
         QCOMPARE(w.result(), int(QDialog::Accepted));
         QVERIFY(dialogs.messages.isEmpty());
 
@@ -347,22 +323,22 @@ private Q_SLOTS:
         // and OK once more writes the same file again.
         const QByteArray written = readFileBytes(m_iniPath);
         TfrmSetup again;
-        QVERIFY(child<QRadioButton>(again, "DBServer")->isChecked());
+        QVERIFY(child<QRadioButton>(&again, "DBServer")->isChecked());
         QCOMPARE(again.ServerProtokolIndex(), 2);
-        QCOMPARE(child<QSpinBox>(again, "udnGrabSize")->value(), 9);
-        QVERIFY(!child<QCheckBox>(again, "chbDisplayGrid")->isChecked());
-        showAndWait(again);
-        QTest::mouseClick(child<QPushButton>(again, "btnOk"), Qt::LeftButton);
+        QCOMPARE(child<QSpinBox>(&again, "udnGrabSize")->value(), 9);
+        QVERIFY(!child<QCheckBox>(&again, "chbDisplayGrid")->isChecked());
+        showAndWait(&again);
+        QTest::mouseClick(child<QPushButton>(&again, "btnOk"), Qt::LeftButton);
         QCOMPARE(readFileBytes(m_iniPath), written);
     }
 
     void okKeepsTheRestOfTheFile()
     {
         writeIni(QStringLiteral("[Fenster]\r\nLinks=10\r\n[Configuration]\r\nGridStep=8\r\nEigen=ja\r\n"));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
-        showAndWait(w);
-        QTest::mouseClick(child<QPushButton>(w, "btnOk"), Qt::LeftButton);
+        showAndWait(&w);
+        QTest::mouseClick(child<QPushButton>(&w, "btnOk"), Qt::LeftButton);
         const TMemIniFile ini(m_iniPath);
         QCOMPARE(ini.readString(QStringLiteral("Fenster"), "Links", QString()), QStringLiteral("10"));
         QCOMPARE(ini.readString(kSection, "Eigen", QString()), QStringLiteral("ja"));
@@ -373,10 +349,10 @@ private Q_SLOTS:
     {
         m_iniPath = m_dir->filePath(QStringLiteral("fehlt/ferolith.ini"));
         AppPaths::setSettingsFileOverride(m_iniPath);
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
-        showAndWait(w);
-        QTest::mouseClick(child<QPushButton>(w, "btnOk"), Qt::LeftButton);
+        showAndWait(&w);
+        QTest::mouseClick(child<QPushButton>(&w, "btnOk"), Qt::LeftButton);
         QCOMPARE(dialogs.messages.size(), 1);
         QCOMPARE(dialogs.messages.first().type, mtError);
         QVERIFY(!dialogs.messages.first().text.isEmpty());
@@ -386,16 +362,16 @@ private Q_SLOTS:
 
     void connectionModeSwitchesServerControls()
     {
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
-        showAndWait(w);
-        auto *scanAlias = child<QPushButton>(w, "ScanAlias");
-        QTest::mouseClick(child<QRadioButton>(w, "DBServer"), Qt::LeftButton);
+        showAndWait(&w);
+        auto *scanAlias = child<QPushButton>(&w, "ScanAlias");
+        QTest::mouseClick(child<QRadioButton>(&w, "DBServer"), Qt::LeftButton);
         for (QWidget *c : serverControls(w))
             QVERIFY2(c->isEnabled(), qPrintable(c->objectName()));
         QVERIFY(!scanAlias->isEnabled()); // no server name yet
 
-        auto *serverName = child<QComboBox>(w, "DBServerName");
+        auto *serverName = child<QComboBox>(&w, "DBServerName");
         QTest::keyClicks(serverName, QStringLiteral("nx"));
         QVERIFY(scanAlias->isEnabled());
         QTest::keyClick(serverName, Qt::Key_Backspace);
@@ -403,15 +379,15 @@ private Q_SLOTS:
         QVERIFY(!scanAlias->isEnabled());
         QTest::keyClicks(serverName, QStringLiteral("nexus"));
 
-        QTest::mouseClick(child<QRadioButton>(w, "DBLocal"), Qt::LeftButton);
+        QTest::mouseClick(child<QRadioButton>(&w, "DBLocal"), Qt::LeftButton);
         for (QWidget *c : serverControls(w))
             QVERIFY2(!c->isEnabled(), qPrintable(c->objectName()));
         QVERIFY(!scanAlias->isEnabled());
-        QVERIFY(child<QLineEdit>(w, "DBPfad")->isEnabled());
-        QVERIFY(child<QSpinBox>(w, "ScanTimeOut")->isEnabled());
-        QVERIFY(child<QLabel>(w, "lblTimeOut")->isEnabled());
+        QVERIFY(child<QLineEdit>(&w, "DBPfad")->isEnabled());
+        QVERIFY(child<QSpinBox>(&w, "ScanTimeOut")->isEnabled());
+        QVERIFY(child<QLabel>(&w, "lblTimeOut")->isEnabled());
 
-        QTest::mouseClick(child<QRadioButton>(w, "DBServer"), Qt::LeftButton);
+        QTest::mouseClick(child<QRadioButton>(&w, "DBServer"), Qt::LeftButton);
         QVERIFY(scanAlias->isEnabled()); // the name typed before is still there
     }
 
@@ -424,20 +400,20 @@ private Q_SLOTS:
         QVERIFY2(server.start(&error), qPrintable(error));
         const QString address = QStringLiteral("127.0.0.1:%1").arg(server.port());
         writeIni(QStringLiteral("[Configuration]\r\nDBConnect=0\r\nScanHosts=%1\r\n").arg(address));
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
-        showAndWait(w);
-        auto *names = child<QComboBox>(w, "DBServerName");
-        auto *aliases = child<QComboBox>(w, "DBAlias");
-        QTest::mouseClick(child<QPushButton>(w, "ServerScanBtn"), Qt::LeftButton);
+        showAndWait(&w);
+        auto *names = child<QComboBox>(&w, "DBServerName");
+        auto *aliases = child<QComboBox>(&w, "DBAlias");
+        QTest::mouseClick(child<QPushButton>(&w, "ServerScanBtn"), Qt::LeftButton);
         QVERIFY2(names->findText(address) >= 0, qPrintable(names->currentText()));
         names->setCurrentIndex(names->findText(address));
-        QTest::mouseClick(child<QPushButton>(w, "ScanAlias"), Qt::LeftButton);
+        QTest::mouseClick(child<QPushButton>(&w, "ScanAlias"), Qt::LeftButton);
         QVERIFY(aliases->findText(QStringLiteral("postgres")) >= 0);
         QVERIFY(dialogs.messages.isEmpty());
 
         server.stop();
-        QTest::mouseClick(child<QPushButton>(w, "ScanAlias"), Qt::LeftButton);
+        QTest::mouseClick(child<QPushButton>(&w, "ScanAlias"), Qt::LeftButton);
         QCOMPARE(dialogs.messages.size(), 1);
         QVERIFY(dialogs.messages.first().text.endsWith(address));
     }
@@ -449,27 +425,27 @@ private Q_SLOTS:
         active.setMultiGrabFill(clRed);
         active.setDesignerColor(clWindow);
         TFormDesigner *current = nullptr;
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
         w.activeDesigner = [&current] { return current; };
-        showAndWait(w);
+        showAndWait(&w);
 
         // Without an open mask there is nothing to start from.
         dialogs.messageAnswers << mrOk;
-        QTest::mouseClick(child<QToolButton>(w, "btnGridColor"), Qt::LeftButton);
+        QTest::mouseClick(child<QToolButton>(&w, "btnGridColor"), Qt::LeftButton);
         QCOMPARE(dialogs.messages.size(), 1);
         QCOMPARE(dialogs.messages.first().text, QStringLiteral("Es ist keine Maske geöffnet."));
         QCOMPARE(dialogs.messages.first().type, mtInformation);
-        QVERIFY(dialogs.colorPresets.isEmpty());
+        QVERIFY(dialogs.colorInitials.isEmpty());
         QCOMPARE(w.GridColor(), clBlack);
 
         current = &active;
         dialogs.colorAnswers << std::optional<TColor>(clBlue) << std::nullopt;
-        QTest::mouseClick(child<QToolButton>(w, "btnMFill"), Qt::LeftButton);
-        QTest::mouseClick(child<QToolButton>(w, "btnDesignerColor"), Qt::LeftButton);
-        QCOMPARE(dialogs.colorPresets, QList<TColor>({clRed, clWindow}));
+        QTest::mouseClick(child<QToolButton>(&w, "btnMFill"), Qt::LeftButton);
+        QTest::mouseClick(child<QToolButton>(&w, "btnDesignerColor"), Qt::LeftButton);
+        QCOMPARE(dialogs.colorInitials, QList<TColor>({clRed, clWindow}));
         QCOMPARE(w.MFillColor(), clBlue);
-        QCOMPARE(child<QFrame>(w, "pnlMFill")->palette().color(QPalette::Window), QColor(Qt::blue));
+        QCOMPARE(child<QFrame>(&w, "pnlMFill")->palette().color(QPalette::Window), QColor(Qt::blue));
         QCOMPARE(w.DesignerColor(), clBtnFace); // the dialog was cancelled
         QCOMPARE(active.MultiGrabFill(), clRed); // chosen, not applied yet
         QCOMPARE(dialogs.unexpected, 0);
@@ -477,22 +453,22 @@ private Q_SLOTS:
 
     void browsingSetsTheDatabasePath()
     {
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
-        showAndWait(w);
+        showAndWait(&w);
         dialogs.directoryAnswers << m_dir->path();
-        QTest::mouseClick(child<QToolButton>(w, "btnDBPfad"), Qt::LeftButton);
-        QCOMPARE(child<QLineEdit>(w, "DBPfad")->text(), AppPaths::withTrailingSeparator(m_dir->path()));
+        QTest::mouseClick(child<QToolButton>(&w, "btnDBPfad"), Qt::LeftButton);
+        QCOMPARE(child<QLineEdit>(&w, "DBPfad")->text(), AppPaths::withTrailingSeparator(m_dir->path()));
     }
 
     void focusStartsOnTheDesignerColourButton()
     {
-        RecordingDialogs dialogs;
+        ScriptedDialogs dialogs;
         TfrmSetup w;
-        showAndWait(w);
+        showAndWait(&w);
         w.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&w));
-        QCOMPARE(QApplication::focusWidget(), child<QWidget>(w, "btnDesignerColor"));
+        QCOMPARE(QApplication::focusWidget(), child<QWidget>(&w, "btnDesignerColor"));
     }
 };
 

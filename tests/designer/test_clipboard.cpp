@@ -192,22 +192,6 @@ void TestClipboard::foreignClipboardContentPastesNothing()
     f.designer->PasteFromClipboard();
     QCOMPARE(Components::componentCount(&f.form), 1);
 
-    // Garbage under our format: reported, nothing made, nothing raised.
-    const QList<QByteArray> garbage = {QByteArray("TPF0\x06TPanel\x06Panel9\x02", 19),
-                                       QByteArray("not a component at all")};
-    for (const QByteArray &bytes : garbage) {
-        errors.clear();
-        auto *mime = new QMimeData;
-        mime->setData(kFormat, bytes);
-        QGuiApplication::clipboard()->setMimeData(mime);
-        QVERIFY(f.designer->CanPaste());
-        f.designer->AddControl(button);
-        f.designer->PasteFromClipboard();
-        QCOMPARE(Components::componentCount(&f.form), 1);
-        QCOMPARE(errors.size(), 1);
-    }
-    QCOMPARE(changes, 0);
-
     // Our format without data: raised, and the selection is emptied.
     auto *empty = new QMimeData;
     empty->setData(kFormat, QByteArray());
@@ -224,6 +208,9 @@ void TestClipboard::foreignClipboardContentPastesNothing()
     QGuiApplication::clipboard()->setMimeData(mixed);
     f.designer->PasteFromClipboard();
     QCOMPARE(Components::componentCount(&f.form), 1);
+    QCOMPARE(errors.size(), 1);
+    QCOMPARE(changes, 0);
+    // Other garbage under our format is the paste fuzz target's job.
 
     // An unknown class: the handler may skip it and keep the rest.
     DesignForm other;

@@ -17,40 +17,25 @@
 #include "TextCodec.h"
 
 #include "helper_objinsp.h"
+#include "helper_maskhost.h"
 
 using namespace ObjInspTest;
 
 namespace {
 
-// Stands in for the main window as far as the inspector is concerned: the
-// selection and the end of a placement reach the inspector through it.
-struct InspHost : TMaskHost
+// The selection and the end of a placement reach the inspector through the
+// main window.
+struct InspHost : RecordingHost
 {
     TObjInsp *insp = nullptr;
-    int tool = 0;
 
-    int ArmedTool() const override { return tool; }
     void placementDone(TMaske *mask) override
     {
-        tool = 0;
+        RecordingHost::placementDone(mask);
         insp->UpdateComponents();
-        mask->FormDesigner2()->Unlock();
     }
-    void placementRefused(TMaske *) override { tool = 0; }
-    void WriteFontStates(QWidget *) override {}
-    bool lastFont(TFont &) const override { return false; }
     void FormDesigner1SelectControl(TMaske *, QWidget *control) override { insp->selectControl(control); }
-    void setPositionFields(int, int, int, int) override {}
-    void applyDesignerSettings(TCustomFormDesigner *) override {}
-    void maskActivated(TMaske *, TcxEditStyleController *) override {}
     void UpdateComponents() override { insp->UpdateComponents(); }
-    void showObjectInspector() override {}
-    void maskClosed(TMaske *) override {}
-    void PasteItemClick() override {}
-    void CopyItemClick() override {}
-    void CutItemClick() override {}
-    void Lschen1Click() override {}
-    void FileSaveItemClick() override {}
 };
 
 // Types text as keys; letters beyond ASCII come as keys that carry them.

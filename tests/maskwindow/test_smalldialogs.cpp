@@ -27,7 +27,6 @@ private slots:
     void runSizeDialogSizesTheSelection();
 
     void alignmentButtonsAlignAlongTheirAxis();
-    void alignmentButtonsWithoutMaskDoNothing();
 
     void memoDialogEditsTheComboItemsOrTheHint();
 };
@@ -242,18 +241,7 @@ void TestSmallDialogs::alignmentButtonsAlignAlongTheirAxis()
         }
     }
 
-    // In plain words: left edges and tops follow the first selected.
-    AlignFixture fx;
-    TFormAlignment window;
-    window.activeDesigner = [&fx] { return fx.f.designer; };
-    QTest::mouseClick(child<QToolButton>(&window, "SBALeft"), Qt::LeftButton);
-    QTest::mouseClick(child<QToolButton>(&window, "SBATop"), Qt::LeftButton);
-    for (QWidget *c : fx.controls)
-        QCOMPARE(c->pos(), QPoint(100, 40));
-}
-
-void TestSmallDialogs::alignmentButtonsWithoutMaskDoNothing()
-{
+    // Without a mask the buttons do nothing.
     AlignFixture fx;
     const QList<QRect> before = fx.geometries();
     TFormAlignment window;
@@ -261,6 +249,13 @@ void TestSmallDialogs::alignmentButtonsWithoutMaskDoNothing()
     window.activeDesigner = [] { return static_cast<TCustomFormDesigner *>(nullptr); };
     QTest::mouseClick(child<QToolButton>(&window, "SBABottom"), Qt::LeftButton);
     QCOMPARE(fx.geometries(), before);
+
+    // In plain words: left edges and tops follow the first selected.
+    window.activeDesigner = [&fx] { return fx.f.designer; };
+    QTest::mouseClick(child<QToolButton>(&window, "SBALeft"), Qt::LeftButton);
+    QTest::mouseClick(child<QToolButton>(&window, "SBATop"), Qt::LeftButton);
+    for (QWidget *c : fx.controls)
+        QCOMPARE(c->pos(), QPoint(100, 40));
 }
 
 // ---- TMemoDlg ----

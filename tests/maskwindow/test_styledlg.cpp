@@ -18,17 +18,6 @@ using namespace GuiSteps;
 
 namespace {
 
-// Records the colour each colour dialog was opened with.
-struct RecordingDialogs : ScriptedDialogs
-{
-    QList<TColor> initials;
-    std::optional<TColor> colorDialog(QWidget *parent, TColor initial) override
-    {
-        initials << initial;
-        return ScriptedDialogs::colorDialog(parent, initial);
-    }
-};
-
 // Picks a list entry the way a user does: focus the list, step with the keys.
 void chooseItem(QComboBox *combo, int index)
 {
@@ -54,7 +43,6 @@ class TestStyleDlg : public QObject
 private slots:
     void showFillsTheControlsWithoutWritingBack();
     void everyChangeGoesToTheControllerAtOnce();
-    void edgeBoxesChangeOnlyTheirOwnBit();
     void colourButtonAndDoubleClickAskForAColour();
     void cancelKeepsTheNewStyleOnTheMask();
 };
@@ -128,22 +116,8 @@ void TestStyleDlg::everyChangeGoesToTheControllerAtOnce()
     QVERIFY(!style.Shadow());
     QVERIFY(style.HotTrack());
 
-    // OK only closes.
-    QTest::mouseClick(child<QPushButton>(&dlg, "btnOK"), Qt::LeftButton);
-    QCOMPARE(dlg.result(), int(QDialog::Accepted));
-    QVERIFY(!dlg.isVisible());
-    QCOMPARE(style.BorderStyle(), ebsThick);
-}
-
-void TestStyleDlg::edgeBoxesChangeOnlyTheirOwnBit()
-{
-    TcxEditStyleController style;
-    TChangeStyle dlg;
-    dlg.setStyleController(&style);
-    dlg.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dlg));
+    // Each edge box changes only its own bit.
     QCOMPARE(style.Edges(), kAllEdges);
-
     clickCheck(child<QCheckBox>(&dlg, "cbTop"));
     QCOMPARE(style.Edges(), 13);
     clickCheck(child<QCheckBox>(&dlg, "cbLeft"));
@@ -157,11 +131,17 @@ void TestStyleDlg::edgeBoxesChangeOnlyTheirOwnBit()
     right->setFocus();
     QTest::keyClick(right, Qt::Key_Space);
     QCOMPARE(style.Edges(), int(bTop));
+
+    // OK only closes.
+    QTest::mouseClick(child<QPushButton>(&dlg, "btnOK"), Qt::LeftButton);
+    QCOMPARE(dlg.result(), int(QDialog::Accepted));
+    QVERIFY(!dlg.isVisible());
+    QCOMPARE(style.BorderStyle(), ebsThick);
 }
 
 void TestStyleDlg::colourButtonAndDoubleClickAskForAColour()
 {
-    RecordingDialogs dialogs;
+    ScriptedDialogs dialogs;
     TcxEditStyleController style;
     style.setBorderColor(Colors::clMaroon);
     TChangeStyle dlg;
@@ -175,7 +155,7 @@ void TestStyleDlg::colourButtonAndDoubleClickAskForAColour()
     // Cancelled: nothing changes.
     dialogs.colorAnswers << std::nullopt;
     QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(dialogs.initials, (QList<TColor>{Colors::clMaroon}));
+    QCOMPARE(dialogs.colorInitials, (QList<TColor>{Colors::clMaroon}));
     QCOMPARE(style.BorderColor(), Colors::clMaroon);
     QCOMPARE(color->currentText(), QStringLiteral("clMaroon"));
 
@@ -191,8 +171,8 @@ void TestStyleDlg::colourButtonAndDoubleClickAskForAColour()
     dialogs.colorAnswers << Colors::clLime;
     QTest::mouseDClick(color, Qt::LeftButton);
     color->hidePopup();
-    QCOMPARE(dialogs.initials.size(), 3);
-    QCOMPARE(dialogs.initials.last(), custom);
+    QCOMPARE(dialogs.colorInitials.size(), 3);
+    QCOMPARE(dialogs.colorInitials.last(), custom);
     QCOMPARE(style.BorderColor(), Colors::clLime);
     QCOMPARE(color->currentText(), QStringLiteral("clLime"));
     QCOMPARE(color->count(), entries + 1);

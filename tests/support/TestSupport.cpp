@@ -41,8 +41,9 @@ bool ScriptedDialogs::fileDialog(QWidget *, TFileDialog &dialog)
     return true;
 }
 
-std::optional<TColor> ScriptedDialogs::colorDialog(QWidget *, TColor)
+std::optional<TColor> ScriptedDialogs::colorDialog(QWidget *, TColor initial)
 {
+    colorInitials << initial;
     if (colorAnswers.isEmpty()) {
         ++unexpected;
         return std::nullopt;

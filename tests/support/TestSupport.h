@@ -32,6 +32,8 @@ public:
     // Each file dialog takes the next entry: the chosen files, or an empty list for Cancel.
     QList<QStringList> fileAnswers;
     QList<std::optional<TColor>> colorAnswers;
+    // The colour each colour dialog opened with.
+    QList<TColor> colorInitials;
     QList<std::optional<QFont>> fontAnswers;
     QList<QString> directoryAnswers;
     // Each of our own modal windows is handed to the next function, which may
