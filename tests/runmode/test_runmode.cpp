@@ -14,6 +14,7 @@
 
 #include "Edits.h"
 #include "FormDesigner.h"
+#include "GuiSteps.h"
 #include "Grids.h"
 #include "MyBtn.h"
 #include "MainForm.h"
@@ -39,9 +40,7 @@ void clickNav(TRunSession *session, const char *name)
 void typeInto(QWidget *edit, const QString &text)
 {
     edit->setFocus();
-    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(edit, Qt::Key_Backspace);
-    QTest::keyClicks(edit, text);
+    GuiSteps::retype(edit, text);
 }
 
 // The main window shown on the database, with a new mask made from its tool button.
