@@ -14,6 +14,7 @@
 
 #include "Edits.h"
 #include "FormDesigner.h"
+#include "GuiSteps.h"
 #include "Grids.h"
 #include "MyBtn.h"
 #include "MainForm.h"
@@ -39,10 +40,46 @@ void clickNav(TRunSession *session, const char *name)
 void typeInto(QWidget *edit, const QString &text)
 {
     edit->setFocus();
-    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(edit, Qt::Key_Backspace);
-    QTest::keyClicks(edit, text);
+    GuiSteps::retype(edit, text);
 }
+
+// The main window shown on the database, with a new mask made from its tool button.
+struct MaskWindow
+{
+    TMainForm form{QStringList{}};
+    TMaske *mask = nullptr;
+
+    explicit MaskWindow(const TConnectionSettings &settings)
+    {
+        form.resize(1100, 750);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        form.frmSetup()->setConnectionSettings(settings);
+        QTest::mouseClick(qobject_cast<QToolButton *>(form.bar(TMainForm::FileMenuBar)->widgetForAction(
+                              form.findChild<QAction *>(QStringLiteral("FileNewItem")))),
+                          Qt::LeftButton);
+        mask = form.activeMask();
+        QVERIFY(mask);
+    }
+
+    // A control placed on the mask; an edit's text names its field.
+    template <class T>
+    T *place(TPaletteCode code, QPoint at, const QString &field = QString())
+    {
+        auto *control = qobject_cast<T *>(mask->placeControl(code, mask->document(), at));
+        if (control && !field.isEmpty())
+            TControl::from(control)->setCaption(field);
+        return control;
+    }
+
+    // The mask shows the table, in the order of the index field.
+    void bind(const QString &table, const QString &index, TTableSettings ts = TTableSettings())
+    {
+        mask->document()->setTabelle(table);
+        ts.Index = index;
+        mask->document()->setTableSettings(ts);
+    }
+};
 } // namespace
 
 class TestRunMode : public QObject
@@ -87,33 +124,22 @@ void TestRunMode::enterNavigateEditAndBack()
     QVERIFY(QDir().mkpath(settings.DBPfad));
     QVERIFY(writeFileBytes(settings.DBPfad + QStringLiteral("K.NUM"), "7"));
 
-    TMainForm form(QStringList{});
-    form.resize(1100, 750);
-    form.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&form));
-    form.frmSetup()->setConnectionSettings(settings);
-    QTest::mouseClick(qobject_cast<QToolButton *>(form.bar(TMainForm::FileMenuBar)->widgetForAction(
-                          form.findChild<QAction *>(QStringLiteral("FileNewItem")))),
-                      Qt::LeftButton);
-    TMaske *mask = form.activeMask();
-    QVERIFY(mask);
-    auto *number = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, mask->document(), {20, 20}));
-    auto *name = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, mask->document(), {20, 60}));
-    auto *grid = qobject_cast<TDBGrid *>(mask->placeControl(TPaletteCode::Grid, mask->document(), {20, 100}));
+    MaskWindow window(settings);
+    TMainForm &form = window.form;
+    TMaske *mask = window.mask;
+    auto *number = window.place<TcxTextEdit>(TPaletteCode::Edit, {20, 20}, QStringLiteral("Nummer"));
+    auto *name = window.place<TcxTextEdit>(TPaletteCode::Edit, {20, 60}, QStringLiteral("Name"));
+    auto *grid = window.place<TDBGrid>(TPaletteCode::Grid, {20, 100});
     QVERIFY(number && name && grid);
-    number->setText(QStringLiteral("Nummer"));
-    name->setText(QStringLiteral("Name"));
     name->setTabStop(true); // required
     name->setHelpKeyword(QStringLiteral("Kundenname"));
     grid->setObjectName(QStringLiteral("DBGrid1"));
     grid->setColumns({QStringLiteral("Nummer=80"), QStringLiteral("Name=150")});
-    mask->document()->setTabelle(QStringLiteral("Kunde"));
     TTableSettings ts;
-    ts.Index = QStringLiteral("Nummer");
     ts.Dateizaehler = QStringLiteral("K.NUM");
     ts.Felder = QStringLiteral("Nummer");
     ts.Fokus = QStringLiteral("Name");
-    mask->document()->setTableSettings(ts);
+    window.bind(QStringLiteral("Kunde"), QStringLiteral("Nummer"), ts);
     const QString file = m_dir.filePath(QStringLiteral("Kunde-%1.dbm").arg(engine));
     QVERIFY(form.SaveMask(file));
     const QByteArray designed = readFileBytes(file);
@@ -202,14 +228,10 @@ void TestRunMode::enterNavigateEditAndBack()
 void TestRunMode::withoutTableStaysPreview()
 {
     ScriptedDialogs dialogs;
-    TMainForm form(QStringList{});
-    form.show();
-    form.frmSetup()->setConnectionSettings(g_fixture->settings(QStringLiteral("sqlite")));
-    form.FileNewItemClick();
-    TMaske *mask = form.activeMask();
-    auto *edit = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, mask->document(), {20, 20}));
-    edit->setText(QStringLiteral("Name"));
-    mask->document()->setTabelle(QStringLiteral("NieErzeugt"));
+    MaskWindow window(g_fixture->settings(QStringLiteral("sqlite")));
+    TMainForm &form = window.form;
+    auto *edit = window.place<TcxTextEdit>(TPaletteCode::Edit, {20, 20}, QStringLiteral("Name"));
+    window.mask->document()->setTabelle(QStringLiteral("NieErzeugt"));
     form.RunMode1Click();
     QCOMPARE(form.findChild<QLabel *>(QStringLiteral("StatusRecord"))->text(),
              QStringLiteral("Keine Daten: Die Tabelle „NieErzeugt“ ist noch nicht erzeugt."));
@@ -217,7 +239,7 @@ void TestRunMode::withoutTableStaysPreview()
     typeInto(edit, QStringLiteral("Hallo"));
     form.EditMode1Click();
     QCOMPARE(edit->text(), QStringLiteral("Name"));
-    mask->setModified(false);
+    window.mask->setModified(false);
 }
 
 void TestRunMode::runModeKeepsItsToolsAndAsks()
@@ -227,19 +249,11 @@ void TestRunMode::runModeKeepsItsToolsAndAsks()
     createTable(settings, dialogs, QStringLiteral("Artikel"),
                 {fieldRow(QStringLiteral("Nummer"), QStringLiteral("A"), QStringLiteral("10"), true)},
                 {QStringLiteral("INSERT INTO \"Artikel\" (\"Nummer\") VALUES ('A1'), ('B2'), ('C3')")});
-    TMainForm form(QStringList{});
-    form.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&form));
-    form.frmSetup()->setConnectionSettings(settings);
-    form.FileNewItemClick();
-    TMaske *mask = form.activeMask();
-    QPointer<TcxTextEdit> number =
-        qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, mask->document(), {20, 20}));
-    number->setText(QStringLiteral("Nummer"));
-    mask->document()->setTabelle(QStringLiteral("Artikel"));
-    TTableSettings ts;
-    ts.Index = QStringLiteral("Nummer");
-    mask->document()->setTableSettings(ts);
+    MaskWindow window(settings);
+    TMainForm &form = window.form;
+    TMaske *mask = window.mask;
+    QPointer<TcxTextEdit> number = window.place<TcxTextEdit>(TPaletteCode::Edit, {20, 20}, QStringLiteral("Nummer"));
+    window.bind(QStringLiteral("Artikel"), QStringLiteral("Nummer"));
     QCOMPARE(mask->FormDesigner2()->ControlCount(), 1);
     form.RunMode1Click();
     TRunSession *session = TRunSession::of(mask->document());
@@ -294,36 +308,26 @@ void TestRunMode::controlsOfferTheirValues()
                 {QStringLiteral("INSERT INTO \"Posten\" (\"Titel\", \"Ort\") VALUES ('Ganzes', 'Bonn')"),
                  QStringLiteral("INSERT INTO \"Posten\" (\"Titel\", \"QXParent\") SELECT 'Teil', \"QXID\" "
                                 "FROM \"Posten\" WHERE \"Titel\" = 'Ganzes'")});
-    TMainForm form(QStringList{});
-    form.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&form));
-    form.frmSetup()->setConnectionSettings(settings);
-    form.FileNewItemClick();
-    TMaske *mask = form.activeMask();
-    QWidget *doc = mask->document();
-    auto *title = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, doc, {20, 20}));
-    auto *place = qobject_cast<TcxDBPopupEdit *>(mask->placeControl(TPaletteCode::Lookup, doc, {20, 50}));
-    auto *date = qobject_cast<TcxTextEdit *>(mask->placeControl(TPaletteCode::Edit, doc, {20, 80}));
-    auto *button = qobject_cast<TMaskBtn *>(mask->placeControl(TPaletteCode::Button, doc, {200, 20}));
-    auto *tree = qobject_cast<TcxDBTreeList *>(mask->placeControl(TPaletteCode::TreeList, doc, {200, 60}));
-    auto *color = qobject_cast<TcxComboBox *>(mask->placeControl(TPaletteCode::Combo, doc, {20, 110}));
+    MaskWindow window(settings);
+    TMainForm &form = window.form;
+    TMaske *mask = window.mask;
+    auto *title = window.place<TcxTextEdit>(TPaletteCode::Edit, {20, 20}, QStringLiteral("Titel"));
+    auto *place = window.place<TcxDBPopupEdit>(TPaletteCode::Lookup, {20, 50});
+    auto *date = window.place<TcxTextEdit>(TPaletteCode::Edit, {20, 80}, QStringLiteral("Datum"));
+    auto *button = window.place<TMaskBtn>(TPaletteCode::Button, {200, 20});
+    auto *tree = window.place<TcxDBTreeList>(TPaletteCode::TreeList, {200, 60});
+    auto *color = window.place<TcxComboBox>(TPaletteCode::Combo, {20, 110}, QStringLiteral("Farbe"));
     QVERIFY(title && place && date && button && tree && color);
-    color->setText(QStringLiteral("Farbe"));
     color->setHint(QStringLiteral("Farben"));
     QVERIFY(writeFileBytes(settings.DBPfad + QStringLiteral("Farben"), "rot\r\ngr\xfcn\r\n"));
-    title->setText(QStringLiteral("Titel"));
     place->setDataField(QStringLiteral("Ort"));
     place->setEditMask(QStringLiteral("Orte"));
-    date->setText(QStringLiteral("Datum"));
     date->setHint(QStringLiteral("!99/99/0000;1;_"));
     button->setRegelFeld(QStringLiteral("Ort"));
     button->setRegelAusdruck(QStringLiteral("= 'bonn'"));
     button->setRegelFarbe(QStringLiteral("clRed"));
     tree->setHint(QStringLiteral("Titel"));
-    mask->document()->setTabelle(QStringLiteral("Posten"));
-    TTableSettings ts;
-    ts.Index = QStringLiteral("Titel");
-    mask->document()->setTableSettings(ts);
+    window.bind(QStringLiteral("Posten"), QStringLiteral("Titel"));
     const QString file = m_dir.filePath(QStringLiteral("Posten.dbm"));
     QVERIFY(form.SaveMask(file));
     const QByteArray designed = readFileBytes(file);

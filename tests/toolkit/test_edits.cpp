@@ -1,12 +1,19 @@
 // The data edits of a mask: text edit, combo box, lookup edit, memo and
-// check box. Their property lists, what the user can and cannot do with
-// them, and how they look.
+// check box, and what the user can and cannot do with them. What every
+// control class does while designed, and how its colour and font look.
 #include <QtTest>
 
 #include <QAbstractItemView>
+#include <QPushButton>
 #include <QScrollBar>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QTreeWidget>
 
 #include "CommonProps.h"
+#include "Containers.h"
+#include "ControlClasses.h"
+#include "GuiSteps.h"
 #include "helper_properties.h"
 #include "Edits.h"
 
@@ -196,7 +203,6 @@ void TestEdits::memoLinesAndTextAreOneContent()
     const TPropInfo *lines = memo.classInfo().property(QStringLiteral("Lines"));
     QVERIFY(lines);
     QVERIFY(!memo.classInfo().property(QStringLiteral("Text")));
-    QCOMPARE(lines->type, TPropType::Strings);
     lines->write(&memo, QStringList{"erste", "", "dritte"});
     QCOMPARE(memo.Text(), QStringLiteral("erste\n\ndritte"));
     QCOMPARE(memo.Caption(), QStringLiteral("erste\n\ndritte"));
@@ -246,133 +252,151 @@ void TestEdits::checkBoxBoxSideAndValues()
     alignment->write(box, int(taCenter)); // shown like left-justified
     std::tie(first, last) = paintedColumns();
     QVERIFY(first >= 0 && last < 40);
-
-    // A click toggles the value; ValueChecked/ValueUnchecked name what the field holds.
-    box->setCaption(QStringLiteral("Aktiv"));
-    alignment->write(box, int(taLeftJustify));
-    const TPropInfo *checked = box->classInfo().property(QStringLiteral("Checked"));
-    QCOMPARE(checked->read(box).toBool(), false);
-    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
-    QCOMPARE(checked->read(box).toBool(), true);
-    checked->write(box, false);
-    QVERIFY(!box->isChecked());
-    QCOMPARE(box->classInfo().property(QStringLiteral("ValueChecked"))->read(box).toString(), QStringLiteral("Ja"));
-    QCOMPARE(box->classInfo().property(QStringLiteral("ValueUnchecked"))->read(box).toString(),
-             QStringLiteral("Nein"));
+    // What the field holds for either state.
+    QCOMPARE(box->ValueChecked(), QStringLiteral("Ja"));
+    QCOMPARE(box->ValueUnchecked(), QStringLiteral("Nein"));
 }
+
+namespace {
+
+// A control of the class on a window of its own, beside a line edit that
+// holds the focus, with something to show: a caption or a filled cell.
+struct Surface : QWidget
+{
+    int presses = 0;
+    void mousePressEvent(QMouseEvent *) override { ++presses; }
+};
+
+struct Placed
+{
+    Surface window;
+    QLineEdit *other = new QLineEdit(&window);
+    QWidget *control;
+
+    explicit Placed(const TClassInfo &info) : control(info.create())
+    {
+        window.resize(420, 160);
+        other->move(0, 130);
+        control->setParent(&window);
+        control->setGeometry(0, 0, 200, 100);
+        TControl::from(control)->setCaption(QStringLiteral("MMMM"));
+        if (auto *combo = qobject_cast<QComboBox *>(control))
+            combo->addItems({QStringLiteral("eins"), QStringLiteral("zwei")});
+        if (auto *table = qobject_cast<QTableWidget *>(control)) {
+            table->setColumnCount(qMax(table->columnCount(), 3));
+            table->setRowCount(qMax(table->rowCount(), 3));
+            // The first row: a string grid's titles, paint of their own.
+            table->setItem(0, 1, new QTableWidgetItem(QStringLiteral("MMMM")));
+        }
+        if (auto *tabs = qobject_cast<TTabSet *>(control))
+            tabs->setTabs({QStringLiteral("MMMM")});
+        if (auto *pager = qobject_cast<TAdvOfficePager *>(control)) {
+            auto *page = new TAdvOfficePage;
+            pager->addPage(page);
+            page->setCaption(QStringLiteral("MMMM"));
+        }
+        if (auto *tree = qobject_cast<QTreeWidget *>(control))
+            tree->addTopLevelItem(new QTreeWidgetItem(QStringList{QStringLiteral("MMMM")}));
+    }
+
+    QHash<QString, QVariant> published() const
+    {
+        QHash<QString, QVariant> values;
+        for (const TPropInfo &p : TControl::from(control)->classInfo().properties)
+            values.insert(p.name, p.read(control));
+        return values;
+    }
+
+    // Clicks where a user would: on whatever part of the control lies under the point.
+    void click(QPoint at, bool twice = false)
+    {
+        QWidget *target = control->childAt(at) ? control->childAt(at) : control;
+        const QPoint local = target->mapFrom(control, at);
+        if (twice)
+            QTest::mouseDClick(target, Qt::LeftButton, {}, local);
+        else
+            QTest::mouseClick(target, Qt::LeftButton, {}, local);
+    }
+};
+
+int countColor(const QImage &image, QColor wanted)
+{
+    return countPixels(image, [wanted](QColor c) { return c == wanted; });
+}
+
+} // namespace
 
 void TestEdits::designingTakesNoFocusAndNoInput()
 {
-    QWidget window;
-    window.resize(400, 200);
-    auto *edit = new TcxTextEdit(&window);
-    auto *combo = new TcxComboBox(&window);
-    combo->move(0, 30);
-    combo->setItems({QStringLiteral("eins"), QStringLiteral("zwei")});
-    auto *memo = new TcxMemo(&window);
-    memo->move(150, 0);
-    auto *box = new TcxDBCheckBox(&window);
-    box->move(0, 60);
-    auto *other = new QLineEdit(&window);
-    other->move(0, 120);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QStringList tookInput;
+    for (const TClassInfo *info : ControlClasses::all()) {
+        Placed placed(*info);
+        QWidget *w = placed.control;
+        placed.window.show();
+        placed.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&placed.window));
+        const QHash<QString, QVariant> before = placed.published();
 
-    const QList<QWidget *> controls = {edit, combo, memo, box};
-    for (QWidget *w : controls) {
-        TControl::from(w)->setCaption(QStringLiteral("alt"));
         TControl::from(w)->setDesigning(true);
-    }
-    for (QWidget *w : controls) {
-        other->setFocus();
-        QTest::mouseClick(w, Qt::LeftButton, {}, QPoint(10, 8));
-        QTest::mouseDClick(w, Qt::LeftButton, {}, QPoint(10, 8));
-        QVERIFY2(!w->hasFocus(), w->metaObject()->className());
+        placed.other->setFocus();
+        const int middle = w->height() / 2;
+        for (const QPoint at : {QPoint(10, middle), QPoint(100, middle), QPoint(w->width() - 6, middle)})
+            placed.click(at);
+        placed.click(QPoint(10, middle), true);
+        // Every press went on to the design surface beneath (buttons and tabs
+        // are no input controls: the designer catches their presses on the way).
+        const bool keepsPresses = qobject_cast<QPushButton *>(w) || qobject_cast<QTabBar *>(w);
+        QVERIFY2(placed.window.presses >= 4 || keepsPresses, qPrintable(info->className));
         QTest::keyClicks(w, QStringLiteral("neu"));
-        QTest::keyClick(w, Qt::Key_Down);
-        QCOMPARE(TControl::from(w)->Caption(), QStringLiteral("alt"));
-    }
-    QVERIFY(!box->isChecked());
-    // The combo's inner line edit lets the mouse through to the combo.
-    QCOMPARE(combo->childAt(10, 8), nullptr);
-    combo->showPopup();
-    QVERIFY(!combo->view()->isVisible());
-    // A click on the memo's text area reaches the memo, not its viewport.
-    QTest::mouseClick(memo->viewport(), Qt::LeftButton, {}, QPoint(10, 10));
-    QVERIFY(!memo->hasFocus());
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_F2, Qt::Key_Space, Qt::Key_Return})
+            QTest::keyClick(w, key);
+        QCoreApplication::processEvents();
+        QVERIFY2(placed.other->hasFocus(), qPrintable(info->className));
+        QVERIFY2(!QApplication::activePopupWidget(), qPrintable(info->className));
+        QVERIFY2(!w->findChild<QLineEdit *>() || !w->findChild<QLineEdit *>()->hasFocus(), qPrintable(info->className));
+        QVERIFY2(placed.published() == before, qPrintable(info->className));
+        if (auto *table = qobject_cast<QTableWidget *>(w))
+            QCOMPARE(table->findItems(QStringLiteral("neu"), Qt::MatchContains).size(), 0);
 
-    for (QWidget *w : controls)
+        // Outside the designer the same control takes the focus and the input.
         TControl::from(w)->setDesigning(false);
-    for (QWidget *w : {static_cast<QWidget *>(edit), static_cast<QWidget *>(memo)}) {
-        other->setFocus();
-        QTest::mouseClick(w, Qt::LeftButton, {}, QPoint(10, 8));
-        QVERIFY2(w->hasFocus(), w->metaObject()->className());
+        placed.other->setFocus();
+        placed.click(QPoint(10, middle));
+        if (w->focusPolicy() & Qt::ClickFocus)
+            QVERIFY2(w->hasFocus(), qPrintable(info->className));
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x"));
+        if (placed.published() != before)
+            tookInput << info->className;
     }
-    QTest::mouseClick(memo->viewport(), Qt::LeftButton, {}, QPoint(60, 10));
-    QTest::keyClicks(memo, QStringLiteral("X"));
-    QCOMPARE(memo->Text(), QStringLiteral("altX"));
-    other->setFocus();
-    QTest::mouseClick(combo->lineEdit(), Qt::LeftButton, {}, QPoint(60, 8));
-    QVERIFY(combo->hasFocus());
-    QTest::keyClicks(combo, QStringLiteral("X"));
-    QCOMPARE(combo->Text(), QStringLiteral("altX"));
-    QTest::keyClick(edit, Qt::Key_End);
-    QTest::keyClicks(edit, QStringLiteral("X"));
-    QCOMPARE(edit->Text(), QStringLiteral("altX"));
-    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
-    QVERIFY(box->isChecked());
+    QCOMPARE(tookInput, (QStringList{"TcxTextEdit", "TcxComboBox", "TcxDBPopupEdit", "TcxMemo", "TcxDBCheckBox"}));
 }
 
 void TestEdits::colorAndFontReachThePaint()
 {
-    QWidget window;
-    window.resize(500, 300);
-    auto *edit = new TcxTextEdit(&window);
-    auto *combo = new TcxComboBox(&window);
-    combo->move(0, 30);
-    auto *lookup = new TcxDBPopupEdit(&window);
-    lookup->move(0, 60);
-    auto *memo = new TcxMemo(&window);
-    memo->move(200, 0);
-    auto *box = new TcxDBCheckBox(&window);
-    box->move(0, 100);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-
-    const QList<QWidget *> controls = {edit, combo, lookup, memo, box};
     const QColor yellow(255, 255, 0);
-    for (QWidget *w : {static_cast<QWidget *>(edit), static_cast<QWidget *>(combo), static_cast<QWidget *>(lookup),
-                       static_cast<QWidget *>(memo)}) {
-        TControl *c = TControl::from(w);
-        c->setCaption(QString());
-        const QPoint inText(12, w->height() / 2);
-        QCOMPARE(w->grab().toImage().pixelColor(inText), Colors::clWindow.toQColor());
-        c->setColor(Colors::clYellow);
-        QCOMPARE(w->grab().toImage().pixelColor(inText), yellow);
-    }
-    // The check box shows its parent's background until it has a colour of its own.
-    const QPoint besideBox(box->width() - 3, 2);
-    QCOMPARE(box->grab().toImage().pixelColor(besideBox), window.palette().color(QPalette::Window));
-    box->setColor(Colors::clYellow);
-    QCOMPARE(box->grab().toImage().pixelColor(besideBox), yellow);
-
     TFont red;
     red.Name = QStringLiteral("DejaVu Sans");
     red.Size = 12;
     red.Color = Colors::clRed;
     red.Style = fsBold;
-    for (QWidget *w : controls) {
+    for (const TClassInfo *info : ControlClasses::all()) {
+        Placed placed(*info);
+        QWidget *w = placed.control;
+        QVERIFY(GuiSteps::showAndWait(&placed.window));
         TControl *c = TControl::from(w);
-        c->setCaption(QStringLiteral("MMMM"));
-        const int before = countPixels(w->grab().toImage(), isReddish);
-        const QImage plain = w->grab().toImage();
-        c->setFont(red);
-        QVERIFY(!c->ParentFont());
-        QCOMPARE(w->font().pointSize(), 12);
-        const QImage styled = w->grab().toImage();
-        QVERIFY2(countPixels(styled, isReddish) > before + 20, w->metaObject()->className());
-        QVERIFY(styled != plain);
+        if (info->property(QStringLiteral("Color"))) {
+            const int before = countColor(w->grab().toImage(), yellow);
+            c->setColor(Colors::clYellow);
+            QVERIFY2(countColor(w->grab().toImage(), yellow) > before + 200, qPrintable(info->className));
+        }
+        // A page's caption is painted by its pager, on the pager's tab.
+        if (info->property(QStringLiteral("Font")) && !qobject_cast<TAdvOfficePage *>(w)) {
+            const int before = countPixels(w->grab().toImage(), isReddish);
+            c->setFont(red);
+            QVERIFY(!c->ParentFont());
+            QCOMPARE(w->font().pointSize(), 12);
+            QVERIFY2(countPixels(w->grab().toImage(), isReddish) > before + 20, qPrintable(info->className));
+        }
     }
 }
 
