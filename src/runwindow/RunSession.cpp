@@ -113,8 +113,10 @@ TRunSession::~TRunSession()
     if (m_bound)
         restoreDesign();
     delete m_navigator;
-    if (m_document)
-        m_document->setProperty(kSessionName, QVariant());
+    // The document may be half destroyed already (it deletes its children):
+    // its QObject part is all this touches.
+    if (QObject *owner = parent())
+        owner->setProperty(kSessionName, QVariant());
 }
 
 TRunSession *TRunSession::of(const TMaskDocument *document)
