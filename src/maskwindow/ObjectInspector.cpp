@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QSet>
+#include <QShowEvent>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QToolBar>
@@ -115,18 +116,6 @@ TObjInsp::TObjInsp(QWidget *parent)
     hint->setAlignment(Qt::AlignCenter);
     def->addRow(hint);
 
-    buildPages();
-    Q_ASSERT(m_notebook->count() == pageCaptions().size());
-    // Wide enough for the widest page: no page is clipped at the right edge.
-    int widest = 0;
-    for (int i = 0; i < m_notebook->count(); ++i)
-        if (auto *page = qobject_cast<QScrollArea *>(m_notebook->widget(i)))
-            widest = qMax(widest, page->widget()->minimumSizeHint().width());
-    const int chrome = layout->contentsMargins().left() + layout->contentsMargins().right()
-                       + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
-    setMinimumWidth(qMax(minimumWidth(), widest + chrome));
-    resize(qMax(width(), minimumWidth()), height());
-
     m_notebook->setCurrentIndex(0);
     m_header->setText(QString());
     // The palette row sits right under the component list, set off from
@@ -141,6 +130,38 @@ TObjInsp::TObjInsp(QWidget *parent)
 }
 
 TObjInsp::~TObjInsp() = default;
+
+// The class pages are a few hundred widgets: they are built when the
+// inspector is first needed, not while the program starts.
+void TObjInsp::ensurePages()
+{
+    if (m_pagesBuilt)
+        return;
+    m_pagesBuilt = true;
+    buildPages();
+    Q_ASSERT(m_notebook->count() == pageCaptions().size());
+    // Wide enough for the widest page: no page is clipped at the right edge.
+    int widest = 0;
+    for (int i = 0; i < m_notebook->count(); ++i)
+        if (auto *page = qobject_cast<QScrollArea *>(m_notebook->widget(i)))
+            widest = qMax(widest, page->widget()->minimumSizeHint().width());
+    const QMargins margins = layout()->contentsMargins();
+    const int chrome = margins.left() + margins.right() + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
+    setMinimumWidth(qMax(minimumWidth(), widest + chrome));
+    resize(qMax(width(), minimumWidth()), height());
+}
+
+QStackedWidget *TObjInsp::Notebook1()
+{
+    ensurePages();
+    return m_notebook;
+}
+
+void TObjInsp::showEvent(QShowEvent *event)
+{
+    ensurePages();
+    QWidget::showEvent(event);
+}
 
 QString TObjInsp::currentPageCaption() const
 {
@@ -294,6 +315,7 @@ void TObjInsp::syncTreeToControl()
 
 void TObjInsp::selectPage()
 {
+    ensurePages();
     endBrowsing();
     m_current = nullptr;
     QList<QWidget *> selection;

@@ -41,7 +41,7 @@ public:
 
     QWidget *currentControl() const { return m_current; }
     bool isUpdating() const { return m_updating; }
-    QStackedWidget *Notebook1() const { return m_notebook; }
+    QStackedWidget *Notebook1();
     QString currentPageCaption() const;
     // The component list and the button that drops it down.
     QTreeWidget *dxBarTreeView() const { return m_tree; }
@@ -61,8 +61,12 @@ public:
     // True while a palette button shows a page only to look at.
     bool isBrowsing() const { return m_browsing; }
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     // ObjectInspector.cpp: frame, component list, page selection
+    void ensurePages();
     void dxBarTreeViewChange(QTreeWidgetItem *item);
     void showTreePopup();
     void selectPage();
@@ -142,6 +146,7 @@ private:
     QPointer<TMaske> m_mask;
     QPointer<QWidget> m_current;
     bool m_updating = false;
+    bool m_pagesBuilt = false;
     QStackedWidget *m_notebook = nullptr;
     QHash<QString, int> m_pageIndex;
     QHash<QString, Editor> m_editors; // by object name, over all pages

@@ -1,27 +1,91 @@
 #include "IconPainting.h"
 
+#include <QApplication>
 #include <QFont>
 #include <QFontDatabase>
+#include <QHash>
+#include <QIconEngine>
 #include <QPainterPath>
 #include <QPixmap>
+#include <QStyle>
+#include <QStyleOption>
 
 namespace IconPainting {
 
+namespace {
+
+// Draws the pictogram when a size is first asked for, instead of rendering
+// every size of every icon at start-up; most icons are only ever shown at
+// one size, many (menu entries) not before their menu opens.
+class PaintedIconEngine : public QIconEngine
+{
+public:
+    explicit PaintedIconEngine(std::function<void(QPainter &)> draw)
+        : m_draw(std::move(draw))
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const qreal scale = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        painter->drawPixmap(rect, scaledPixmap(rect.size(), mode, state, scale));
+    }
+
+    QSize actualSize(const QSize &size, QIcon::Mode, QIcon::State) override
+    {
+        const int side = qMin(size.width(), size.height());
+        return QSize(side, side);
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return scaledPixmap(size, mode, state, 1.0);
+    }
+
+    QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State, qreal scale) override
+    {
+        const int side = qMax(1, qRound(qMin(size.width(), size.height()) * scale));
+        const quint64 key = (quint64(side) << 24) | (quint64(qRound(scale * 100)) << 8) | quint64(mode);
+        auto cached = m_cache.constFind(key);
+        if (cached != m_cache.cend())
+            return *cached;
+        QPixmap pixmap(side, side);
+        pixmap.fill(Qt::transparent);
+        {
+            QPainter p(&pixmap);
+            p.setRenderHint(QPainter::Antialiasing);
+            p.setRenderHint(QPainter::TextAntialiasing);
+            p.scale(side / 24.0, side / 24.0);
+            m_draw(p);
+        }
+        if (mode != QIcon::Normal && qApp) {
+            QStyleOption option;
+            option.palette = QApplication::palette();
+            pixmap = QApplication::style()->generatedIconPixmap(mode, pixmap, &option);
+        }
+        pixmap.setDevicePixelRatio(scale);
+        m_cache.insert(key, pixmap);
+        return pixmap;
+    }
+
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
+    {
+        return {QSize(16, 16), QSize(20, 20), QSize(24, 24), QSize(32, 32), QSize(48, 48)};
+    }
+
+    QIconEngine *clone() const override { return new PaintedIconEngine(*this); }
+    QString key() const override { return QStringLiteral("ferolith-painted"); }
+
+private:
+    std::function<void(QPainter &)> m_draw;
+    QHash<quint64, QPixmap> m_cache;
+};
+
+} // namespace
+
 QIcon makeIcon(const std::function<void(QPainter &)> &draw)
 {
-    QIcon icon;
-    for (int size : {16, 20, 24, 32, 48}) {
-        QPixmap pixmap(size, size);
-        pixmap.fill(Qt::transparent);
-        QPainter p(&pixmap);
-        p.setRenderHint(QPainter::Antialiasing);
-        p.setRenderHint(QPainter::TextAntialiasing);
-        p.scale(size / 24.0, size / 24.0);
-        draw(p);
-        p.end();
-        icon.addPixmap(pixmap);
-    }
-    return icon;
+    return QIcon(new PaintedIconEngine(draw));
 }
 
 void outlineRect(QPainter &p, const QRectF &rect, const QColor &fill, const QColor &pen)
