@@ -220,6 +220,9 @@ public:
     // The grid bitmap for the current settings (empty when the step is wider
     // than the screen). Built when first asked for after a change.
     QPixmap gridBitmap() const;
+    // The widget that draws frames and marks over the attached control; the
+    // grab handles stay below it.
+    QWidget *overlayWidget() const;
     // The pre-drawn handle of each look, as handles and multi-selection marks show it.
     QPixmap grabBitmap(TGrabType type) const { return m_grabBitmap[type]; }
     // What a mark of that look shows: the type's glyph (its transparent

@@ -60,6 +60,11 @@ void TCustomFormDesigner::UpdateGrabs()
     }
 }
 
+QWidget *TCustomFormDesigner::overlayWidget() const
+{
+    return m_overlay;
+}
+
 // ---- TGrabHandle ----
 
 TGrabHandle::TGrabHandle(TCustomFormDesigner *designer, TGrabPosition position)
@@ -100,7 +105,8 @@ void TGrabHandle::place(QWidget *parent, const QRect &rect, bool locked, bool vi
         raise();
         // Below the overlay, which would otherwise have to be raised again,
         // and raising it repaints the whole design control.
-        if (auto *overlay = parent ? parent->findChild<TDesignOverlay *>(QString(), Qt::FindDirectChildrenOnly) : nullptr)
+        QWidget *overlay = m_designer->overlayWidget();
+        if (overlay && parent && overlay->parentWidget() == parent)
             stackUnder(overlay);
     }
     update();
