@@ -2,24 +2,15 @@
 // mask in the local database, kept and dropped data, the scans against a
 // private server, and German messages with a non-zero exit on failure.
 #include <QDir>
-#include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include "PgTestServer.h"
-#include "TestSupport.h"
-#include "TextCodec.h"
+#include "helper_cli.h"
 
-namespace {
-struct Run
-{
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
-} // namespace
+using namespace CliTest;
 
 class TestCliDatabase : public QObject
 {
@@ -136,12 +127,7 @@ private Q_SLOTS:
 
 private:
     QString path(const QString &name) const { return m_dir.filePath(name); }
-    void writeText(const QString &name, const QString &text) const
-    {
-        QString crlf = text;
-        crlf.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-        QVERIFY(writeFileBytes(path(name), TextCodec::encodeWindows1252(crlf)));
-    }
+    void writeText(const QString &name, const QString &text) const { QVERIFY(writeCrlfText(path(name), text)); }
     QSqlDatabase open() const
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("check"));
@@ -161,18 +147,7 @@ private:
         QSqlDatabase::removeDatabase(QStringLiteral("check"));
         return n;
     }
-    Run run(const QString &ini, const QStringList &args) const
-    {
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        p.setProcessEnvironment(env);
-        p.start(QStringLiteral(FEROLITH_CLI), QStringList{QStringLiteral("--ini"), path(ini)} + args);
-        if (!p.waitForFinished(60000))
-            p.kill();
-        return Run{p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
-                   QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
-    }
+    Run run(const QString &ini, const QStringList &args) const { return runTool(path(ini), args); }
 
     QTemporaryDir m_dir;
 };

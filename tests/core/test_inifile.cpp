@@ -41,7 +41,6 @@ private slots:
     void fileErrors();
     void longLines();
 
-    void profileReads();
     void profileCreatesPrivateFile();
     void profileLeavesOtherLinesAlone();
     void profileKeepsFileStyle();
@@ -432,22 +431,6 @@ void TestIniFile::longLines()
     QCOMPARE(ini.text().size(), big + 19);
 }
 
-void TestIniFile::profileReads()
-{
-    const QString file = path(QStringLiteral("ferolith.ini"));
-    QVERIFY(writeFileBytes(file, "[Allgemein]\r\nPfad=C:\\Daten\\ \r\nZahl=$10\r\nAn=1\r\nFarbe=clInfoBk\r\n"));
-    QCOMPARE(Profile::readString(file, QStringLiteral("ALLGEMEIN"), QStringLiteral("pfad"), QString()),
-             QStringLiteral("C:\\Daten\\ "));
-    QCOMPARE(Profile::readInteger(file, QStringLiteral("allgemein"), QStringLiteral("zahl"), 0), 16);
-    QCOMPARE(Profile::readBool(file, QStringLiteral("Allgemein"), QStringLiteral("AN"), false), true);
-    QCOMPARE(Profile::readColor(file, QStringLiteral("Allgemein"), QStringLiteral("Farbe"), clBlack), clInfoBk);
-    QCOMPARE(Profile::readString(file, QStringLiteral("Allgemein"), QStringLiteral("fehlt"), QStringLiteral("d")),
-             QStringLiteral("d"));
-    const QString missing = path(QStringLiteral("fehlt.ini"));
-    QCOMPARE(Profile::readInteger(missing, QStringLiteral("Allgemein"), QStringLiteral("Zahl"), 5), 5);
-    QVERIFY(!QFile::exists(missing));
-}
-
 void TestIniFile::profileCreatesPrivateFile()
 {
     const QString file = path(QStringLiteral("neu.ini"));
@@ -520,6 +503,10 @@ void TestIniFile::profileLeavesOtherLinesAlone()
 
     QCOMPARE(Profile::readString(file, QStringLiteral("ZUSATZ"), QStringLiteral("wert"), QString()), QStringLiteral("ü"));
     QCOMPARE(Profile::readInteger(file, QStringLiteral("allgemein"), QStringLiteral("neu"), 0), 7);
+    QCOMPARE(Profile::readBool(file, QStringLiteral("Allgemein"), QStringLiteral("Neu"), false), true);
+    QCOMPARE(Profile::readColor(file, QStringLiteral("Fenster"), QStringLiteral("Farbe"), clBlack), clBtnFace);
+    QCOMPARE(Profile::readString(file, QStringLiteral("Fenster"), QStringLiteral("fehlt"), QStringLiteral("d")),
+             QStringLiteral("d"));
 }
 
 void TestIniFile::profileKeepsFileStyle()
@@ -570,6 +557,9 @@ void TestIniFile::profileErrors()
     QVERIFY(!Profile::writeString(m_dir->path(), QStringLiteral("A"), QStringLiteral("k"), QStringLiteral("v"), &error));
     QVERIFY(!error.isEmpty());
     QVERIFY(QFileInfo(m_dir->path()).isDir());
+    // Reading a missing file gives the default and creates nothing.
+    QCOMPARE(Profile::readInteger(nowhere, QStringLiteral("A"), QStringLiteral("k"), 5), 5);
+    QVERIFY(!QFile::exists(nowhere));
 
     const QString file = path(QStringLiteral("x.ini"));
     QVERIFY(writeFileBytes(file, "[A]\r\n"));

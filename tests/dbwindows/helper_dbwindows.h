@@ -8,6 +8,7 @@
 #include <QTableWidget>
 #include <QTest>
 
+#include "GuiSteps.h"
 #include "MaskDocument.h"
 #include "MaskLoader.h"
 
@@ -24,21 +25,8 @@ inline void loadMask(TMaskDocument &mask, const QString &file, const QString &da
     QVERIFY(MaskLoader::LoadMask(mask, file, databaseFolder));
 }
 
-template <class T>
-T *child(const QWidget *w, const char *name)
-{
-    T *c = w->findChild<T *>(QLatin1String(name));
-    if (!c)
-        qFatal("no child %s", name);
-    return c;
-}
-
-inline void showAndWait(QWidget *w)
-{
-    w->show();
-    w->activateWindow();
-    QVERIFY(QTest::qWaitForWindowExposed(w));
-}
+using GuiSteps::child;
+using GuiSteps::showAndWait;
 
 // The context menu event a right click makes (QTest's clicks make none).
 inline void rightClick(QWidget *w, const QPoint &pos)

@@ -230,7 +230,6 @@ void TestObjInspTools::paletteShowsPagesWithoutWriting()
     InspFixture f;
     QWidget *palette = f.insp.componetMenu();
     const QList<QToolButton *> buttons = palette->findChildren<QToolButton *>();
-    QCOMPARE(buttons.size(), TObjInsp::pageCaptions().size());
     auto *defaultButton = f.editor<QToolButton>(QStringLiteral("BarButton1"));
     QVERIFY(defaultButton->isChecked());
     // The rows wrap inside the narrow tool window.
@@ -248,7 +247,6 @@ void TestObjInspTools::paletteShowsPagesWithoutWriting()
     f.mask->setModified(false);
 
     QToolButton *labelButton = f.insp.paletteButton(QStringLiteral("TLabel"));
-    QCOMPARE(labelButton->text(), QStringLiteral("Label")); // the kinds table's caption
     QTest::mouseClick(labelButton, Qt::LeftButton);
     QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("TLabel"));
     QVERIFY(labelButton->isChecked());

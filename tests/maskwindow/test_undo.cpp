@@ -14,7 +14,6 @@ class TestUndo : public QObject
 private slots:
     void freshHistoryRestoresNothing();
     void undoWalksBackToTheFirstSnapshot();
-    void saveAfterUndoKeepsTheUndoneSnapshots();
     void undoAndRedoRestoreDeletedNestedControls();
     void snapshotsOfALargeFormRestoreExactly();
     void programHistoryRecordsThroughSaveUndo();
@@ -89,24 +88,36 @@ void TestUndo::undoWalksBackToTheFirstSnapshot()
     f.designer->setActive(true);
     TUndoStream history;
 
-    history.SaveUndo(f.designer);             // snapshot 1: x 10
+    history.SaveUndo(f.designer); // A: x 10
     control(f, name)->move(50, 10);
-    history.SaveUndo(f.designer);             // snapshot 2: x 50
+    history.SaveUndo(f.designer); // B: x 50
     control(f, name)->move(90, 10);
 
+    // Index 0 and the first snapshot share their place.
     QCOMPARE(history.positions().size(), 3);
     QCOMPARE(history.positions().at(0), 0);
     QCOMPARE(history.positions().at(1), 0);
     QVERIFY(history.positions().at(2) > 0);
     QCOMPARE(history.current(), 2);
 
-    // The last saved state first, then the first snapshot twice.
+    // The last saved state first.
     QVERIFY(history.Undo(f.designer));
     QCOMPARE(xOf(f, name), 50);
     QCOMPARE(history.current(), 1);
     QVERIFY(history.Undo(f.designer));
     QCOMPARE(xOf(f, name), 10);
     QCOMPARE(history.current(), 0);
+
+    // A save after undoing goes behind the undone snapshots, which stay:
+    // back through C, B and A, and A once more.
+    control(f, name)->move(70, 10);
+    history.SaveUndo(f.designer); // C: x 70
+    QCOMPARE(history.positions().size(), 4);
+    QCOMPARE(history.current(), 3);
+    for (int x : {70, 50, 10}) {
+        QVERIFY(history.Undo(f.designer));
+        QCOMPARE(xOf(f, name), x);
+    }
     control(f, name)->move(33, 10);
     QVERIFY(history.Undo(f.designer));
     QCOMPARE(xOf(f, name), 10);
@@ -116,33 +127,6 @@ void TestUndo::undoWalksBackToTheFirstSnapshot()
     // Loading one snapshot never brings in the later ones as well.
     QCOMPARE(topNames(f), QStringList{name});
     // Redo is walked with the nested controls below.
-}
-
-void TestUndo::saveAfterUndoKeepsTheUndoneSnapshots()
-{
-    DesignForm f;
-    const QString name = f.add<TMaskBtn>(nullptr, {10, 10, 80, 25})->objectName();
-    f.designer->setActive(true);
-    TUndoStream history;
-
-    history.SaveUndo(f.designer); // A: 10
-    control(f, name)->move(50, 10);
-    history.SaveUndo(f.designer); // B: 50
-    QVERIFY(history.Undo(f.designer));
-    QVERIFY(history.Undo(f.designer));
-    QCOMPARE(xOf(f, name), 10);
-
-    control(f, name)->move(70, 10);
-    history.SaveUndo(f.designer); // C: 70, appended behind B
-    QCOMPARE(history.positions().size(), 4);
-    QCOMPARE(history.current(), 3);
-
-    const QList<int> expected{70, 50, 10, 10};
-    for (int x : expected) {
-        QVERIFY(history.Undo(f.designer));
-        QCOMPARE(xOf(f, name), x);
-    }
-    QVERIFY(!history.Undo(f.designer));
 }
 
 void TestUndo::snapshotsOfALargeFormRestoreExactly()

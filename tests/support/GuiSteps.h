@@ -11,8 +11,7 @@
 
 namespace GuiSteps {
 
-template<typename T>
-T *child(QObject *parent, const char *name)
+template <typename T> T *child(const QObject *parent, const char *name)
 {
     T *w = parent->findChild<T *>(QString::fromLatin1(name));
     if (!w)
