@@ -65,11 +65,15 @@ void TestCli::roundtripWritesWhatSaveWrites()
 void TestCli::dumpDescribesTheMask()
 {
     // Header, resolution, style, table settings and every control with its
-    // published properties; the reference was written once and checked by
-    // hand against the mask file.
+    // published properties; the references were written once and checked by
+    // hand against the mask files. The mask of every kind with every key
+    // shows where each key's value went.
     const Run r = run({QStringLiteral("dump"), path(QStringLiteral("kunden.dbm"))});
     QCOMPARE(r.exitCode, 0);
     QCOMPARE(r.out.toUtf8(), readFileBytes(QStringLiteral(FEROLITH_SOURCE_DIR "/tests/cli/data/kunden.dump.json")));
+    const Run all = run({QStringLiteral("dump"), QStringLiteral(FEROLITH_SOURCE_DIR "/tests/masks/data/alle.dbm")});
+    QCOMPARE(all.exitCode, 0);
+    QCOMPARE(all.out.toUtf8(), readFileBytes(QStringLiteral(FEROLITH_SOURCE_DIR "/tests/cli/data/alle.dump.json")));
 }
 
 void TestCli::renderPaintsTheMaskWindow()

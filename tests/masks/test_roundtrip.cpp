@@ -146,49 +146,11 @@ void TestRoundtrip::everyKeyOfEveryKind()
     }
     TMaskDocument *mask = home.load(dataFile(QStringLiteral("alle.dbm")));
 
-    // What a plain round trip cannot tell: where the values went.
-    QCOMPARE(controlClasses(mask).mid(0, 5), QStringList({"TAdvOfficePager", "TAdvOfficePage", "TAdvOfficePage",
-                                                          "TPanel", "TLabel"}));
+    // Where each value went is the batch tool's dump test; here what the
+    // dump does not show.
     auto *pager = component<TAdvOfficePager>(mask, "AdvOfficePager1");
     QVERIFY(pager->Pages(0)->isVisibleTo(pager) && !pager->Pages(1)->isVisibleTo(pager));
-    QCOMPARE(component<TDBLabel>(mask, "DBLabel1")->parentWidget(), pager->Pages(1));
-    QCOMPARE(component<TLabel>(mask, "Label1")->geometry(), QRect(8, 12, 90, 16)); // no automatic sizing
-    auto *panel = component<TPanel>(mask, "Panel1");
-    QCOMPARE(panel->BevelInner(), bvLowered);
-    QCOMPARE(panel->BevelOuter(), bvRaised);
-    auto *edit = component<TcxTextEdit>(mask, "cxTextEdit1");
-    // An edit's field name is its text, so its character case applies to
-    // the name ("KundenNr" in the file); a lookup's bound field is not.
-    QCOMPARE(edit->Text(), QStringLiteral("KUNDENNR"));
-    QCOMPARE(edit->Hint(), QStringLiteral("000000"));
-    QCOMPARE(edit->MaxLength(), 6);
-    QVERIFY(edit->TabStop()); // "Pflicht"
-    QCOMPARE(edit->CharCase(), ecUpperCase);
-    QCOMPARE(edit->StyleController(), mask->cxStyleController());
-    auto *lookup = component<TcxDBPopupEdit>(mask, "cxDBPopupEdit1");
-    QCOMPARE(lookup->CharCase(), ecLowerCase);
-    QCOMPARE(lookup->DataField(), QStringLiteral("KUNDE"));
-    auto *check = component<TcxDBCheckBox>(mask, "cxDBCheckBox1");
-    QCOMPARE(check->ValueChecked(), QStringLiteral("J"));
-    QCOMPARE(check->ValueUnchecked(), QStringLiteral("N"));
-    auto *shape = component<TShape>(mask, "Shape1");
-    QCOMPARE(shape->BrushColor(), Colors::clLime);
-    QCOMPARE(shape->PenColor(), Colors::clPurple);
-    auto *button = component<TMaskBtn>(mask, "MaskBtn1");
-    QCOMPARE(button->ProgExt(), QStringLiteral("txt"));
-    QCOMPARE(button->SectionExt(), QStringLiteral("Prog"));
-    QCOMPARE(button->ZuweisFeld(), QStringLiteral("KUNDENNR"));
-    QCOMPARE(button->ZuweisFeldEx(), QStringLiteral("NAME"));
-    // The main grid is made first, so it is "DBGrid1"; the misspelled
-    // scroll bar key wins over the right one.
-    QVERIFY(component<TDBGrid>(mask, "DBGrid1")->ReadOnly());
-    QCOMPARE(component<TDBGrid>(mask, "DBGrid2")->Tag(), 2);
-    auto *tree = component<TcxDBTreeList>(mask, "cxDBTreeList1");
-    QCOMPARE(tree->KeyField(), QStringLiteral("SCHLUESSEL"));
-    QCOMPARE(tree->ParentField(), QStringLiteral("VATER"));
-    auto *radio = component<TDBRadioGroup>(mask, "DBRadioGroup1");
-    QCOMPARE(radio->Font().Size, 11); // read from "FSize", not the written "FontSize"
-    QCOMPARE(radio->Items(), QStringList({"Rechnung", "Lastschrift SEPA", "Vorkasse"}));
+    QCOMPARE(component<TcxTextEdit>(mask, "cxTextEdit1")->StyleController(), mask->cxStyleController());
 }
 
 QTEST_MAIN(TestRoundtrip)
