@@ -112,8 +112,6 @@ void TestObjInspTools::pickListFileIsCreatedAndEdited()
     f.dialogs.messageAnswers = {mrNo};
     QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(f.dialogs.messageTexts(), QStringList{kCreate});
-    QCOMPARE(f.dialogs.messages.first().type, mtConfirmation);
-    QCOMPARE(f.dialogs.messages.first().buttons, TMsgDlgButtons(mbYes | mbNo));
     QVERIFY(!QFileInfo::exists(file));
 
     // Created empty, folder and all; not edited.
@@ -321,6 +319,12 @@ void TestObjInspTools::paletteFollowsSelectionAndPlacement()
     QCOMPARE(f.mask->FormDesigner2()->ControlCount(), 2);
     QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("Default"));
     QVERIFY(f.editor<QToolButton>(QStringLiteral("BarButton1"))->isChecked());
+    QCOMPARE(f.insp.currentControl(), shape);
+    // So does a class without a page of its own, and no selection at all.
+    f.select({f.add<TImage>(nullptr, QRect(100, 60, 40, 40))});
+    QCOMPARE(f.insp.currentPageCaption(), QStringLiteral("Default"));
+    f.select({});
+    QCOMPARE(f.insp.currentControl(), nullptr);
 
     // A placement from the main palette shows the new control's page, even
     // after browsing another one.
