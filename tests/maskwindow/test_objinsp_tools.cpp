@@ -1,6 +1,6 @@
 // The inspector's tools beside the pages: the pick-list file of a combo box,
 // created and edited through the list editor, and the inspector's own
-// palette that shows pages only to look at.
+// palette that shows pages only to look at, and which page a selection shows.
 #include <QtTest>
 
 #include <QPlainTextEdit>
