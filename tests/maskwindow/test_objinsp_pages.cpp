@@ -212,16 +212,6 @@ void TestObjInspPages::shapeColours()
     QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("ShapePenColor")), Qt::LeftButton); // cancelled
     QCOMPARE(shape->BrushColor(), Colors::clYellow);
     QCOMPARE(shape->PenColor(), Colors::clNavy);
-
-    // So do a panel's colour and font buttons.
-    auto *panel = f.add<TPanel>(nullptr, QRect(100, 60, 80, 80));
-    f.select({panel});
-    f.dialogs.colorAnswers << std::optional<TColor>(Colors::clYellow);
-    f.dialogs.fontAnswers << QFont(QStringLiteral("Courier"), 13);
-    QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("Button6")), Qt::LeftButton);
-    QTest::mouseClick(f.editor<QPushButton>(QStringLiteral("Button7")), Qt::LeftButton);
-    QCOMPARE(panel->Color(), Colors::clYellow);
-    QCOMPARE(panel->Font().Size, 13);
     QCOMPARE(f.dialogs.unexpected, 0);
 }
 

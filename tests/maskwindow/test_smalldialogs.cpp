@@ -28,7 +28,7 @@ private slots:
 
     void alignmentButtonsAlignAlongTheirAxis();
 
-    void memoDialogEditsTheComboItemsOrTheHint();
+    void memoDialogEditsTheComboItems();
 };
 
 namespace {
@@ -252,8 +252,9 @@ void TestSmallDialogs::alignmentButtonsAlignAlongTheirAxis()
 }
 
 // ---- TMemoDlg ----
+// Its other use, editing a pick-list file, is driven from the inspector.
 
-void TestSmallDialogs::memoDialogEditsTheComboItemsOrTheHint()
+void TestSmallDialogs::memoDialogEditsTheComboItems()
 {
     TcxComboBox combo;
     combo.setItems({QStringLiteral("rot"), QStringLiteral("grün")});
@@ -290,23 +291,6 @@ void TestSmallDialogs::memoDialogEditsTheComboItemsOrTheHint()
     QTest::keyClick(memo, Qt::Key_Delete);
     QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
     QCOMPARE(combo.Items(), QStringList());
-
-    // Without a combo box the dialog edits the hint and leaves the list alone.
-    combo.setItems({QStringLiteral("bleibt")});
-    dlg.setComboBox(nullptr);
-    dlg.setMemoHint(QStringLiteral("Zeile 1\nZeile 2"));
-    dlg.show();
-    QCOMPARE(memo->toPlainText(), QStringLiteral("Zeile 1\nZeile 2"));
-    QCOMPARE(memo->toolTip(), QStringLiteral("Zeile 1\nZeile 2"));
-    memo->moveCursor(QTextCursor::End);
-    QTest::keyClicks(memo, QStringLiteral("!"));
-    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&OK")), Qt::LeftButton);
-    QCOMPARE(dlg.memoHint(), QStringLiteral("Zeile 1\nZeile 2!"));
-    QCOMPARE(combo.Items(), QStringList{QStringLiteral("bleibt")});
-    dlg.show();
-    QTest::keyClicks(memo, QStringLiteral("?"));
-    QTest::mouseClick(buttonWithText(&dlg, QStringLiteral("&Abbrechen")), Qt::LeftButton);
-    QCOMPARE(dlg.memoHint(), QStringLiteral("Zeile 1\nZeile 2!"));
 }
 
 QTEST_MAIN(TestSmallDialogs)

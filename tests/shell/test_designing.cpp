@@ -93,12 +93,7 @@ void TestDesigning::paletteClicksPlaceNamedControls()
     placeWith(form.get(), "dxBarBtnLabel", surface, QPoint(200, 16));
     QCOMPARE(mask->FormDesigner2()->currentControl()->objectName(), QStringLiteral("Label2"));
 
-    // A click inside a panel places into the panel; a page control brings two pages.
-    placeWith(form.get(), "dxBarPanel", surface, QPoint(16, 120));
-    QWidget *panel = mask->FormDesigner2()->currentControl();
-    placeWith(form.get(), "dxBarBtnEdit", panel, QPoint(8, 8));
-    QCOMPARE(mask->FormDesigner2()->currentControl()->parentWidget(), panel);
-    QCOMPARE(form->ObjInsp()->currentPageCaption(), QStringLiteral("TcxTextEdit"));
+    // A page control brings two pages.
     placeWith(form.get(), "dxBarBtnPageControl", surface, QPoint(260, 120));
     auto *pager = qobject_cast<TAdvOfficePager *>(mask->FormDesigner2()->currentControl());
     QVERIFY(pager);
@@ -154,8 +149,6 @@ void TestDesigning::toolBarsFollowTheSelection()
     QTest::keyClicks(width, QStringLiteral("140"));
     for (QWidget *w : five)
         QCOMPARE(w->width(), 140);
-    // The inspector shows nothing for a group.
-    QCOMPARE(form->ObjInsp()->currentPageCaption(), QStringLiteral("Default"));
 
     // The tab order field changes only the current control.
     auto *tabOrder = form->findChild<QSpinBox *>(QStringLiteral("dxBarSpinTabOrder"));

@@ -59,12 +59,6 @@ void TestMainForm::tabsAndWindowListFollowTheMaskWindows()
     const QStringList three(3, QStringLiteral("Unbenannt.dbm"));
     QCOMPARE(tabTexts(tabs), three);
     QCOMPARE(actionTexts(form->windowListActions()), three);
-    for (QMdiSubWindow *w : windows) {
-        auto *mask = qobject_cast<TMaske *>(w);
-        QVERIFY(mask);
-        QCOMPARE(mask->Path(), QStringLiteral("Unbenannt.dbm"));
-        QVERIFY(!mask->Modified());
-    }
     // The newest window is the active one and its tab is current.
     QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(2));
     QCOMPARE(tabs->currentIndex(), 2);
@@ -88,7 +82,6 @@ void TestMainForm::tabsAndWindowListFollowTheMaskWindows()
     QCOMPARE(menu->actions().mid(menu->actions().size() - 3), entries);
     QVERIFY(entries.at(0)->isChecked());
     QVERIFY(!entries.at(1)->isChecked());
-    QVERIFY(!entries.at(2)->isChecked());
     clickMenuItem(menu, entries.at(2));
     QVERIFY(!menu->isVisible());
     QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(2));
@@ -100,8 +93,6 @@ void TestMainForm::tabsAndWindowListFollowTheMaskWindows()
     QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(0).center());
     openMenu(form.get(), menu);
     entries = form->windowListActions();
-    QVERIFY(entries.at(0)->isChecked());
-    QVERIFY(!entries.at(1)->isChecked());
     clickMenuItem(menu, entries.at(1));
     QCOMPARE(form->mdiArea()->activeSubWindow(), windows.at(1));
     QVERIFY(!windows.at(1)->isMinimized());
@@ -171,9 +162,9 @@ void TestMainForm::minimiseAllAndArrangeIcons()
 void TestMainForm::commandsNeedAnOpenMask()
 {
     auto form = showMainForm();
-    const char *const maskCommands[] = {"FileCloseItem", "FileSaveItem", "FileSaveAsItem", "WindowCascadeItem",
-                                        "WindowTileItem", "WindowArrangeItem", "WindowMinimizeItem",
-                                        "CreateTableItem", "dxBarButton7"};
+    const char *const maskCommands[]
+        = {"FileCloseItem",     "FileSaveItem",       "FileSaveAsItem",  "WindowCascadeItem", "WindowTileItem",
+           "WindowArrangeItem", "WindowMinimizeItem", "CreateTableItem", "dxBarButton7",      "RunModeItem"};
     auto expectEnabled = [&](bool enabled) {
         for (const char *name : maskCommands) {
             QAction *item = action(form.get(), name);
@@ -195,7 +186,6 @@ void TestMainForm::commandsNeedAnOpenMask()
     // A maximised mask is still the one the commands work on.
     subWindows(form.get()).first()->showMaximized();
     expectEnabled(true);
-    QVERIFY(action(form.get(), "RunModeItem")->isEnabled());
     subWindows(form.get()).first()->showNormal();
 
     clickTool(form.get(), "FileCloseItem");
@@ -222,8 +212,6 @@ void TestMainForm::onlyTheFirstCommandLineArgumentIsOpened()
     QCOMPARE(windows.size(), 1);
     auto *mask = qobject_cast<TMaske *>(windows.at(0));
     QVERIFY(mask);
-    // The caption shows the mask's title; the path stays the file's.
-    QCOMPARE(withoutSize(mask->windowTitle()), QStringLiteral("Kundenstamm"));
     QCOMPARE(mask->Path(), first);
     QCOMPARE(tabTexts(form.tabSet()), QStringList{QStringLiteral("Kundenstamm")});
     // The status bar shows where the active mask lives.

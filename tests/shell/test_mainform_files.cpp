@@ -247,16 +247,8 @@ void TestMainFormFiles::untitledOrPathlessMaskAsksForAName()
     QVERIFY(pathless->Modified());
     QVERIFY(!QFile::exists(m_work->filePath(QStringLiteral("Unbenannt.dbm"))));
 
-    // Save As cancelled leaves caption, path and files as they were.
-    dialogs.fileAnswers << QStringList();
-    form->mdiArea()->setActiveSubWindow(mask);
-    clickTool(form.get(), "FileSaveAsItem");
-    QCOMPARE(dialogs.fileDialogs.size(), 3);
-    QCOMPARE(withoutSize(mask->windowTitle()), QStringLiteral("Bestellung.dbm"));
-    QCOMPARE(mask->Path(), chosen);
-    QCOMPARE(QDir(m_work->path()).entryList(QDir::Files).size(), 2);
-
     // A name typed without extension is saved as a mask all the same.
+    form->mdiArea()->setActiveSubWindow(mask);
     dialogs.fileAnswers << QStringList{path(QStringLiteral("Lager"))};
     clickTool(form.get(), "FileSaveAsItem");
     QCOMPARE(dialogs.fileDialogs.last().defaultExt, QStringLiteral("dcf"));
