@@ -103,16 +103,15 @@ void TControlReader::styled(QWidget *w) const
         s->setStyleController(m_mask->cxStyleController());
 }
 
-QWidget *TControlReader::parentFor(const QString &section) const
+QWidget *TControlReader::parentFor(const QString &section, const QWidget *self) const
 {
     const QString name = str(section, kParent, QStringLiteral("Maske"));
     // Only a windowed control made before this one can hold it; anything
-    // else (the mask itself, a bevel, a name not yet made, the control's
-    // own name) means the mask.
+    // else (the mask itself, a bevel, a name not yet made) means the mask.
     QObject *found = Components::findComponent(m_mask, name);
     auto *w = qobject_cast<QWidget *>(found);
     const TControl *c = TControl::from(found);
-    if (w && c && c->classInfo().windowed)
+    if (w && w != self && c && c->classInfo().windowed)
         return w;
     return m_mask;
 }
@@ -120,18 +119,13 @@ QWidget *TControlReader::parentFor(const QString &section) const
 template <class T>
 T *TControlReader::create(const QString &section, const QString &fixedName)
 {
-    // Made inside its container: a parentless widget would be set up as a
-    // window first and then moved in, which costs more than the control.
-    QWidget *parent = parentFor(section);
-    T *w = nullptr;
-    {
-        const TControl::LoadingScope loading;
-        w = new T(parent);
-    }
+    auto *w = new T;
+    w->beginLoading();
     Components::setOwner(w, m_mask);
     if (!fixedName.isEmpty())
         w->setObjectName(fixedName);
     AutoName(w, m_mask);
+    w->setParent(parentFor(section, w));
     w->show();
     m_controls.append(w);
     return w;

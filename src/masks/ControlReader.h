@@ -52,7 +52,7 @@ private:
     // rule (or given the fixed name), on the parent its section names.
     template <class T>
     T *create(const QString &section, const QString &fixedName = QString());
-    QWidget *parentFor(const QString &section) const;
+    QWidget *parentFor(const QString &section, const QWidget *self) const;
 
     QString str(const QString &section, const QString &key, const QString &def = QString()) const;
     int integer(const QString &section, const QString &key, int def) const;

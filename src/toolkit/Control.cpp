@@ -337,12 +337,8 @@ void sendToBack(QWidget *control)
 
 } // namespace ControlLayout
 
-int TControl::s_loadingScopes = 0;
-
 TControl::TControl(QWidget *self) : m_self(self)
 {
-    if (s_loadingScopes > 0)
-        m_state |= csLoading;
     // A new control shows its name until it gets a caption of its own.
     QObject::connect(self, &QObject::objectNameChanged, self, [this](const QString &name) {
         noteChange();

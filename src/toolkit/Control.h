@@ -106,17 +106,6 @@ public:
     bool isDesigning() const { return m_state & csDesigning; }
     // While loading, properties are applied as read and nothing sizes itself.
     void beginLoading() { m_state |= csLoading; }
-    // While one lives, new controls start out loading, so a control made
-    // inside its container joins it as a loaded one: a reader creates each
-    // control in place instead of making a window of it and moving it in.
-    class LoadingScope
-    {
-    public:
-        LoadingScope() { ++s_loadingScopes; }
-        ~LoadingScope() { --s_loadingScopes; }
-        LoadingScope(const LoadingScope &) = delete;
-        LoadingScope &operator=(const LoadingScope &) = delete;
-    };
     // Links the control into its container's focus chain, applies a tab
     // order given while loading and aligns, unless told not to (the
     // container does all that at once, see ControlLayout::endLoading).
@@ -154,8 +143,6 @@ protected:
 private:
     void parentChanged();
     void requestParentAlign();
-
-    static int s_loadingScopes;
 
     QWidget *m_self;
     QPointer<QWidget> m_tabParent;
