@@ -11,7 +11,6 @@
 #include "MaskLoader.h"
 #include "MyBtn.h"
 
-#include <QComboBox>
 #include "helper_masks.h"
 
 using namespace MaskTest;

@@ -3,7 +3,6 @@
 #include <QtTest>
 
 #include <QGuiApplication>
-#include <QTabBar>
 
 #include "Containers.h"
 #include "FormDesigner.h"

@@ -21,12 +21,10 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScrollArea>
-#include <QStackedWidget>
 #include <QSpinBox>
+#include <QStackedWidget>
 #include <QToolButton>
-#include <QTreeWidget>
 
 #include "helper_objinsp.h"
 

@@ -2,7 +2,6 @@
 // selection, the alignment tool window and the pull-down list editor.
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QToolButton>
 #include <QtTest>

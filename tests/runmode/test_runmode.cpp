@@ -6,10 +6,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QTreeWidget>
 #include <QMdiArea>
 #include <QTest>
-#include <QToolBar>
 #include <QToolButton>
 
 #include "Edits.h"

@@ -1,7 +1,8 @@
 // Panels, page controls, radio groups, tab sets and the graphic controls as
 // a user sees them: pixels, pages that switch on a click, items that follow.
-#include <QRadioButton>
 #include <QtTest>
+
+#include <QRadioButton>
 
 #include "Containers.h"
 #include "Graphics.h"
